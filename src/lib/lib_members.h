@@ -1,0 +1,15 @@
+// The member table of class `lib`, assembled from one part per subsystem.
+#pragma once
+
+#include "lib/dispatch.h"
+#include "velkor6/lib.h"
+
+namespace velkor6::dispatch {
+
+const Table<lib>& libMembers();
+
+// One function per subsystem adds that subsystem's rows.
+void addTextMembers(Table<lib>& table);
+void addValueMembers(Table<lib>& table);
+
+} // namespace velkor6::dispatch

@@ -1,0 +1,22 @@
+#include <gtest/gtest.h>
+
+#include "velkor6/variant.h"
+
+namespace velkor6 {
+namespace {
+
+TEST(Variant, CopiesArraysDeeplyAndReportsTypes) {
+    Variant a = Variant::array({Variant(std::int16_t{1}), Variant(u"x")});
+    Variant b = a;
+    b.array().items[0] = Variant(2.5);
+    EXPECT_EQ(a.array().items[0], Variant(std::int16_t{1}));
+    EXPECT_EQ(b.type(), VarType::Array | VarType::Variant);
+    EXPECT_EQ(Variant().type(), VarType::Empty);
+    EXPECT_EQ(Variant::null().type(), VarType::Null);
+    EXPECT_TRUE(Variant::missing().isMissing());
+    EXPECT_EQ(Variant::nothing().type(), VarType::Object);
+    EXPECT_NE(Variant(std::int16_t{1}), Variant(std::int32_t{1}));
+}
+
+} // namespace
+} // namespace velkor6
