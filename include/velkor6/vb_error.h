@@ -21,7 +21,9 @@ constexpr std::int32_t invalidPattern = 93;
 constexpr std::int32_t invalidUseOfNull = 94;
 constexpr std::int32_t objectRequired = 424;
 constexpr std::int32_t noSuchMember = 438;
+constexpr std::int32_t namedArgumentNotFound = 448;
 constexpr std::int32_t argumentNotOptional = 449;
+constexpr std::int32_t wrongArgumentCount = 450;
 // The library's own errors (hexadecimal 80040000).
 constexpr std::int32_t library = static_cast<std::int32_t>(0x80040000u);
 } // namespace vberr

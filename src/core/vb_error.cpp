@@ -24,7 +24,10 @@ std::u16string VbError::describe(std::int32_t number) {
     case vberr::invalidUseOfNull: return u"Invalid use of Null";
     case vberr::objectRequired: return u"Object required";
     case vberr::noSuchMember: return u"Object doesn't support this property or method";
+    case vberr::namedArgumentNotFound: return u"Named argument not found";
     case vberr::argumentNotOptional: return u"Argument not optional";
+    case vberr::wrongArgumentCount:
+        return u"Wrong number of arguments or invalid property assignment";
     default: return u"Application-defined or object-defined error";
     }
 }

@@ -88,15 +88,20 @@ struct Argument {
 template <class Target>
 const Member<Target>* find(const Table<Target>& table, std::u16string_view name, Kind kind);
 
+// The arguments of one call bound to a member's parameters: one coerced value per parameter,
+// and for each the caller's value it came from (nullptr when the argument was omitted).
+struct Binding {
+    std::vector<Variant> values;
+    std::vector<Variant*> sources;
+};
+
 // Binds the arguments to the member's parameters: positional first, then named; omitted
 // optionals (not passed, or Missing) take their defaults. Raises 449 for a missing required
-// argument, 448 for an unknown name, 450 for too many arguments, and the conversion errors
-// (13, 6) for a value that does not fit the declared type.
-std::vector<Variant> bindArguments(std::u16string_view memberName, std::span<const Param> params,
-                                   std::span<Argument> args, const Locale& loc);
+// argument, 448 for an unknown name, 450 for too many arguments or one bound twice, and the
+// conversion errors (13, 6) for a value that does not fit the declared type.
+Binding bindArguments(std::span<const Param> params, std::span<Argument> args, const Locale& loc);
 // Writes the ByRef parameters back into the caller's values.
-void writeBack(std::span<const Param> params, std::span<Argument> args,
-               std::span<Variant> bound);
+void writeBack(std::span<const Param> params, Binding& binding);
 // Coerces a value to a parameter type with VB's rules; Variant takes anything.
 Variant coerce(const Variant& v, VarType type, const Locale& loc);
 
@@ -110,10 +115,10 @@ Variant invoke(const Table<Target>& table, Target& target, std::u16string_view n
     const Member<Target>* m = find(table, name, kind);
     if (m == nullptr)
         throwNoSuchMember(name);
-    std::vector<Variant> bound = bindArguments(m->name, m->params, args, loc);
-    Args view(bound);
+    Binding binding = bindArguments(m->params, args, loc);
+    Args view(binding.values);
     Variant result = m->call(target, view);
-    writeBack(m->params, args, bound);
+    writeBack(m->params, binding);
     return result;
 }
 

@@ -1,0 +1,200 @@
+#include "commands.h"
+
+#include <iostream>
+#include <memory>
+
+#include "core/convert.h"
+#include "core/format.h"
+#include "core/text.h"
+#include "lib/lib_members.h"
+#include "literal.h"
+#include "velkor6/vb_error.h"
+
+namespace velkor6::cli {
+namespace {
+
+using dispatch::Kind;
+
+std::ostream& operator<<(std::ostream& os, std::u16string_view s) { return os << toUtf8(s); }
+
+std::shared_ptr<Module> makeModule(const Options& options) {
+    auto module = Module::createDefault();
+    if (!options.locale.empty())
+        module->setLocale(Locale::preset(fromUtf8(options.locale)));
+    return module;
+}
+
+// What VB's Print shows for a value.
+std::u16string printText(const Variant& v, const Locale& loc) {
+    switch (v.type()) {
+    case VarType::Empty: return u"";
+    case VarType::Null: return u"Null";
+    case VarType::String: return v.string();
+    case VarType::Boolean: return v.boolean() ? u"True" : u"False";
+    case VarType::Date: return formatGeneralDate(v.date(), loc);
+    case VarType::Object: return v.object() ? v.object()->typeName() : u"Nothing";
+    case VarType::Error: return typedLiteral(v);
+    default: break;
+    }
+    if (v.isArray())
+        return typedLiteral(v);
+    return toString(v, loc);
+}
+
+void printError(const VbError& e, std::ostream& err) {
+    err << "error " << e.number() << ": " << e.description() << " (" << e.source() << ")\n";
+}
+
+// Calls one member with parsed arguments and prints the result and every ByRef parameter.
+void callAndPrint(lib& target, const Options& options, const std::u16string& name,
+                  std::vector<ParsedArgument>& parsed, std::optional<Variant> assigned,
+                  std::ostream& out) {
+    const Kind kind = assigned ? Kind::PropertyLet : Kind::Method;
+    const auto* member = dispatch::find(dispatch::libMembers(), name, kind);
+    if (member == nullptr)
+        dispatch::throwNoSuchMember(name);
+    if (assigned)
+        parsed.push_back({member->params.back().name, std::move(*assigned)});
+
+    std::vector<dispatch::Argument> args;
+    args.reserve(parsed.size());
+    for (auto& p : parsed)
+        args.push_back({&p.value, p.name});
+    const Locale& loc = target.locale();
+    dispatch::Binding binding = dispatch::bindArguments(member->params, args, loc);
+    dispatch::Args view(binding.values);
+    const Variant result = member->call(target, view);
+    dispatch::writeBack(member->params, binding);
+
+    if (member->result != VarType::Empty)
+        out << (options.typed ? typedLiteral(result) : printText(result, loc)) << '\n';
+    for (std::size_t i = 0; i < member->params.size(); ++i) {
+        if (member->params[i].byRef)
+            out << member->params[i].name << " = " << typedLiteral(binding.values[i]) << '\n';
+    }
+}
+
+std::u16string defaultText(const Variant& v) {
+    if (v.isString())
+        return typedLiteral(v);
+    if (v.type() == VarType::Boolean || v.isEmpty() || v.isNull() || v.isObject())
+        return typedLiteral(v);
+    return toString(v, Locale::englishUS());
+}
+
+std::u16string signature(const dispatch::Member<lib>& m) {
+    std::u16string s = m.name + u"(";
+    for (std::size_t i = 0; i < m.params.size(); ++i) {
+        const auto& p = m.params[i];
+        if (i > 0)
+            s += u", ";
+        if (p.optional)
+            s += u"Optional ";
+        if (p.byRef)
+            s += u"ByRef ";
+        s += p.name;
+        if (isArrayType(p.type))
+            s += u"()";
+        s += u" As " + dispatch::typeLabel(isArrayType(p.type) ? elementType(p.type) : p.type);
+        if (p.optional && !p.defaultValue.isMissing())
+            s += u" = " + defaultText(p.defaultValue);
+    }
+    s += u")";
+    if (m.result != VarType::Empty)
+        s += u" As " + dispatch::typeLabel(m.result);
+    return s;
+}
+
+std::u16string kindLabel(const dispatch::Member<lib>& m) {
+    switch (m.kind) {
+    case Kind::PropertyGet: return u"Property Get";
+    case Kind::PropertyLet: return u"Property Let";
+    default: return m.result == VarType::Empty ? u"Sub" : u"Function";
+    }
+}
+
+} // namespace
+
+int runCall(const Options& options, const std::vector<std::string>& words, std::ostream& out,
+            std::ostream& err) {
+    if (words.empty()) {
+        err << "usage: velkor6 call [--typed] [--let] [--locale de-DE|en-US] MEMBER [ARG ...]\n";
+        return 2;
+    }
+    std::vector<ParsedArgument> parsed;
+    std::optional<Variant> assigned;
+    for (std::size_t i = 1; i < words.size(); ++i)
+        parsed.push_back(parseCommandArgument(fromUtf8(words[i])));
+    if (options.let) {
+        if (parsed.empty()) {
+            err << "velkor6 call --let: the last argument is the value to assign\n";
+            return 2;
+        }
+        assigned = std::move(parsed.back().value);
+        parsed.pop_back();
+    }
+    try {
+        lib target(makeModule(options));
+        callAndPrint(target, options, fromUtf8(words[0]), parsed, std::move(assigned), out);
+    } catch (const VbError& e) {
+        printError(e, err);
+        return 1;
+    }
+    return 0;
+}
+
+int runScript(const Options& options, std::istream& in, std::ostream& out, std::ostream& err,
+              bool interactive) {
+    lib target(makeModule(options));
+    std::string line;
+    while (true) {
+        if (interactive)
+            out << "velkor6> " << std::flush;
+        if (!std::getline(in, line))
+            break;
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        const std::u16string text = fromUtf8(line);
+        const std::u16string_view trimmed = trimSpaces(text);
+        if (trimmed.empty() || trimmed.front() == u'\'')
+            continue;
+        try {
+            ParsedCall call = parseCallLine(trimmed);
+            callAndPrint(target, options, call.member, call.arguments, std::move(call.assigned),
+                         out);
+        } catch (const VbError& e) {
+            out << std::flush;
+            printError(e, err);
+        }
+        out << std::flush;
+    }
+    if (interactive)
+        out << '\n';
+    // A raised error is one of the results a script shows, not a failure of the program.
+    return 0;
+}
+
+int runMembers(bool markdown, std::ostream& out) {
+    const auto& table = dispatch::libMembers();
+    if (!markdown) {
+        for (const auto& m : table)
+            out << kindLabel(m) << ' ' << signature(m) << '\n';
+        return 0;
+    }
+    out << "# Member reference\n\n"
+           "Generated from the member table by `velkor6 members --markdown`; do not edit.\n\n"
+           "## Class lib\n";
+    for (const auto& m : table) {
+        out << "\n### " << m.name;
+        if (m.kind != Kind::Method)
+            out << " (" << kindLabel(m) << ")";
+        out << "\n\n`" << kindLabel(m) << ' ' << signature(m) << "`\n";
+        if (!m.summary.empty())
+            out << '\n' << m.summary << '\n';
+        if (!m.notes.empty())
+            out << '\n' << m.notes << '\n';
+    }
+    return 0;
+}
+
+} // namespace velkor6::cli

@@ -1,0 +1,42 @@
+// VB literals as the command line writes them, and back.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "velkor6/locale.h"
+#include "velkor6/variant.h"
+
+namespace velkor6::cli {
+
+// "Missing" stands for an omitted optional argument.
+struct ParsedArgument {
+    std::u16string name; // for name:=value
+    Variant value;
+};
+
+// Reads a whole text as one literal: "text" (with "" for a quote, pieces joined by & and
+// Chr(N)), whole numbers (Integer, Long, else Double), suffixes % & ! # @, decimals, &H / &O,
+// #yyyy-mm-dd[ hh:nn[:ss]]#, True, False, Null, Empty, Nothing, Missing and Array(...).
+// nullopt when the text is not exactly one literal.
+std::optional<Variant> parseLiteral(std::u16string_view text);
+
+// One command-line argument: "name:=literal" or a literal; any other text is a String as written.
+ParsedArgument parseCommandArgument(std::u16string_view text);
+
+// A call in VB syntax: member(arg, , name:=value) or member arg, arg; with "= value" after it,
+// a property assignment. Raises VbError for a line that does not parse.
+struct ParsedCall {
+    std::u16string member;
+    std::vector<ParsedArgument> arguments;
+    std::optional<Variant> assigned;
+};
+ParsedCall parseCallLine(std::u16string_view line);
+
+// The typed literal of a value: 1% 2& 1.5! 1.5# 12.5@ True Empty Null Nothing #2024-03-15#
+// "text" with Chr(N) for control characters, Array(...).
+std::u16string typedLiteral(const Variant& v);
+
+} // namespace velkor6::cli
