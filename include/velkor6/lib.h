@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "velkor6/module.h"
+#include "velkor6/records.h"
 #include "velkor6/variant.h"
 
 namespace velkor6 {
@@ -69,19 +70,68 @@ public:
     bool vkrAND(std::int32_t lVal1, std::int32_t lVal2);
 
     // --- SQL literal and value helpers ----------------------------------------------------
+    std::u16string vkrSQLDate(const Variant& vValue, bool bMSSQLServer = false);
+    std::u16string vkrSQLDouble(const Variant& vValue);
+    std::u16string vkrSQLFilter(const VariantArray& vParams);
+    Variant vkrGetNotNullValue(const Variant& vValue);
+    bool vkrIsEmpty(const Variant& vValue);
+    bool vkrIsInList(const Variant& vValue, const VariantArray& vList);
+    bool vkrArrayHasData(const Variant& vArray);
+    void vkrBubbleSort(VariantArray& sList);
+    void vkrClearCollection(ObjectRef& oCollection, bool bSetToNothing = false);
 
     // --- Call by name and compression ----------------------------------------------------
+    // "Deflate", "Inflate" or "InflateStrict" (any letter case) applied to the text vParam.
+    Variant vkrGlobalVar(std::u16string_view sName, const Variant& vParam = Variant::missing());
 
     // --- Paths and files -----------------------------------------------------------------
+    std::u16string vkrGetFullPath(std::u16string_view sPath, std::u16string_view sFile);
+    // The Windows directory (not the system directory), cached per object.
+    std::u16string vkrSystemDir();
+    std::u16string vkrTempDir();
+    std::u16string vkrFileStream(std::u16string_view sFilename);
+    void vkrFileStreamLet(std::u16string_view sFilename, std::u16string_view value);
+    void vkrChangeToPath(std::u16string_view sPath);
+    std::u16string vkrGetAbsolutePath(std::u16string_view sSource, std::u16string_view sTarget);
+    std::u16string vkrGetRelativePath(std::u16string_view sSource, std::u16string_view sTarget);
+    bool vkrFileExists(std::u16string_view filename);
+    bool vkrPathExists(std::u16string_view sPath);
+    std::u16string vkrFindFile(std::u16string_view sFilename, std::u16string_view sFolder = {});
+    bool vkrCheckAttributes(std::u16string_view sPathName, std::int16_t iAllowedAttribute);
+    bool vkrSeparateFile(std::u16string_view sFullName, typFileInfo& tFileInfo);
 
     // --- Predefined expressions and text files -------------------------------------------
 
     // --- Folders, special folders and file comparison ------------------------------------
+    std::u16string prfGetSpecialFolder(std::int32_t lngCSIDL);
+    bool prfChangeDir(std::u16string_view sFolder);
+    bool prfMakeDir(std::u16string_view sFolder);
+    bool prfCompareFiles(std::u16string_view sFilename, std::u16string_view sSource,
+                         std::u16string_view sTarget);
+    // oSplash, when given, answers Visible, Hide and Show.
+    bool prfCompareFolders(std::u16string_view sSource, std::u16string_view sTarget,
+                           std::u16string_view sMask = u"*.*", const ObjectRef& oSplash = {});
+    // A String array (lower bound 0) of the matching names; empty when there are none.
+    Variant prfGetFileList(std::u16string_view sFolder, std::u16string_view sMask = u"*.*",
+                           std::u16string_view sLikeFilter = u"*");
+    bool prfIsAdmin();
 
     // --- Registry reading ----------------------------------------------------------------
+    Variant regGetValue(std::int32_t lRegKey, std::u16string_view sRegSubKey,
+                        std::u16string_view sValueName,
+                        const Variant& vDefaultValue = Variant::missing());
+    std::int32_t regGetLong(std::int32_t lRegKey, std::u16string_view sRegSubKey,
+                            std::u16string_view sValueName, std::int32_t lDefaultValue = 0);
+    std::u16string regGetString(std::int32_t lRegKey, std::u16string_view sRegSubKey,
+                                std::u16string_view sValueName,
+                                std::u16string_view sDefaultValue = {});
+    std::int32_t regSubKeyCount(std::int32_t lRegKey, std::u16string_view sRegSubKey);
+    // Fills sKeys with the names of the direct sub-keys; leaves it alone when the key does not open.
+    void regFindKeys(std::int32_t lRegKey, std::u16string_view sRegSubKey, VariantArray& sKeys);
 
 private:
     std::shared_ptr<Module> module_;
+    std::u16string windowsDirectory_;
 };
 
 } // namespace velkor6

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "velkor6/locale.h"
 #include "velkor6/platform/platform.h"
@@ -22,9 +23,13 @@ public:
     const Locale& locale() const { return locale_; }
     void setLocale(Locale locale) { locale_ = std::move(locale); }
 
+    // The user's temporary folder, read once for the whole module; empty until first use.
+    std::u16string& tempFolderCache() { return tempFolder_; }
+
 private:
     std::unique_ptr<Platform> platform_;
     Locale locale_;
+    std::u16string tempFolder_;
 };
 
 } // namespace velkor6

@@ -15,6 +15,7 @@ constexpr std::int32_t outOfMemory = 7;
 constexpr std::int32_t subscriptOutOfRange = 9;
 constexpr std::int32_t divisionByZero = 11;
 constexpr std::int32_t typeMismatch = 13;
+constexpr std::int32_t outOfStringSpace = 14;
 constexpr std::int32_t fileNotFound = 53;
 constexpr std::int32_t objectNotSet = 91;
 constexpr std::int32_t invalidPattern = 93;
@@ -24,6 +25,7 @@ constexpr std::int32_t noSuchMember = 438;
 constexpr std::int32_t namedArgumentNotFound = 448;
 constexpr std::int32_t argumentNotOptional = 449;
 constexpr std::int32_t wrongArgumentCount = 450;
+constexpr std::int32_t duplicateKey = 457;
 // The library's own errors (hexadecimal 80040000).
 constexpr std::int32_t library = static_cast<std::int32_t>(0x80040000u);
 } // namespace vberr

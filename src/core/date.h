@@ -20,7 +20,7 @@ constexpr double minDateSerial = -657434.0;
 constexpr double maxDateSerial = 2958466.0;
 
 // The calendar parts of a serial, rounded to the nearest second. Negative serials keep the
-// fraction as a positive time: -1.25 is 1899-12-29 06:00.
+// fraction as a positive time: -1.25 is 1899-12-29 06:00. Raises error 6 outside the range.
 DateParts splitDate(Date d);
 // DateSerial + TimeSerial with VB's roll-over of months, days, hours, minutes and seconds.
 // Raises error 5 for years outside 100..9999 after the roll-over.
@@ -30,6 +30,8 @@ int weekday(Date d);                            // 1 = Sunday ... 7 = Saturday
 
 // Reads a date and/or time the way CDate does in the locale: the locale's short-date order,
 // ISO yyyy-mm-dd, month names in English and the locale's language, times with ":" and AM/PM.
+// A date needs its day, month and year: there is no clock here to supply the current year, so
+// "15.03" is no date. A day and month that only fit the other way round are swapped.
 std::optional<Date> parseDate(std::u16string_view text, const Locale& loc);
 
 } // namespace velkor6

@@ -2,14 +2,14 @@
 // here so that their conversions stay exact and never pass through binary floating point.
 #pragma once
 
+#include "velkor6/locale.h"
+#include "velkor6/variant.h"
+
 #include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include "velkor6/locale.h"
-#include "velkor6/variant.h"
 
 namespace velkor6 {
 

@@ -18,6 +18,7 @@ std::u16string VbError::describe(std::int32_t number) {
     case vberr::subscriptOutOfRange: return u"Subscript out of range";
     case vberr::divisionByZero: return u"Division by zero";
     case vberr::typeMismatch: return u"Type mismatch";
+    case vberr::outOfStringSpace: return u"Out of string space";
     case vberr::fileNotFound: return u"File not found";
     case vberr::objectNotSet: return u"Object variable or With block variable not set";
     case vberr::invalidPattern: return u"Invalid pattern string";
@@ -28,6 +29,8 @@ std::u16string VbError::describe(std::int32_t number) {
     case vberr::argumentNotOptional: return u"Argument not optional";
     case vberr::wrongArgumentCount:
         return u"Wrong number of arguments or invalid property assignment";
+    case vberr::duplicateKey:
+        return u"This key is already associated with an element of this collection";
     default: return u"Application-defined or object-defined error";
     }
 }

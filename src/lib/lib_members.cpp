@@ -7,6 +7,10 @@ const Table<lib>& libMembers() {
         Table<lib> t;
         addTextMembers(t);
         addValueMembers(t);
+        addCallByNameMembers(t);
+        addSqlMembers(t);
+        addFileMembers(t);
+        addRegistryMembers(t);
         return t;
     }();
     return table;

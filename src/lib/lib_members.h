@@ -11,5 +11,9 @@ const Table<lib>& libMembers();
 // One function per subsystem adds that subsystem's rows.
 void addTextMembers(Table<lib>& table);
 void addValueMembers(Table<lib>& table);
+void addCallByNameMembers(Table<lib>& table);
+void addSqlMembers(Table<lib>& table);
+void addRegistryMembers(Table<lib>& table);
+void addFileMembers(Table<lib>& table);
 
 } // namespace velkor6::dispatch

@@ -11,7 +11,8 @@ void addValueMembers(Table<lib>& t) {
                  T::Double,
                  [](lib& l, Args& a) -> Variant { return l.vkrVal(a.str(0)); },
                  u"Lenient number from typed text: keeps digits, signs and separators and reads "
-                 u"them in the locale; 0 when nothing readable is left."});
+                 u"them in the locale; 0 when nothing readable is left.",
+                 u""});
     t.push_back({u"vkrCVal",
                  Kind::Method,
                  {required(u"VarType", T::Long), required(u"SourceVal", T::Variant)},
@@ -28,7 +29,8 @@ void addValueMembers(Table<lib>& t) {
                  T::Variant,
                  [](lib& l, Args& a) -> Variant { return l.vkrRound(a[0], a.i16(1)); },
                  u"Rounds Integer, Long, Single, Double and Currency values half away from zero; "
-                 u"other values and negative places come back unchanged."});
+                 u"other values and negative places come back unchanged.",
+                 u""});
     t.push_back({u"vkrHexToDec",
                  Kind::Method,
                  {byRef(u"vHexVal", T::Variant)},
@@ -54,7 +56,8 @@ void addValueMembers(Table<lib>& t) {
          T::String,
          [](lib& l, Args& a) -> Variant { return l.vkrDbl2Hex(a.f64(0), a.i16(1)); },
          u"Hexadecimal text of a number wider than 32 bits, left-padded with \"0\" to "
-         u"iMinLen; error 6 when the high part exceeds a Long."});
+         u"iMinLen; error 6 when the high part exceeds a Long.",
+         u""});
     t.push_back(
         {u"vkrBruchrechnung",
          Kind::Method,
@@ -79,13 +82,15 @@ void addValueMembers(Table<lib>& t) {
          T::Boolean,
          [](lib& l, Args& a) -> Variant { return l.vkrCompare(a.f32(0), a.f32(1), a.f32(2)); },
          u"True when nSource lies within nTarget plus or minus nTolerance (single "
-         u"precision)."});
+         u"precision).",
+         u""});
     t.push_back({u"vkrAND",
                  Kind::Method,
                  {required(u"lVal1", T::Long), required(u"lVal2", T::Long)},
                  T::Boolean,
                  [](lib& l, Args& a) -> Variant { return l.vkrAND(a.i32(0), a.i32(1)); },
-                 u"True when every bit set in lVal2 is also set in lVal1."});
+                 u"True when every bit set in lVal2 is also set in lVal1.",
+                 u""});
 }
 
 } // namespace velkor6::dispatch

@@ -105,6 +105,10 @@ TEST(CliLiteral, TypedNumbersAreShortestRoundTrip) {
     EXPECT_EQ(typedLiteral(Variant(1234.5)), u"1234.5#");
     EXPECT_EQ(typedLiteral(Variant(0.1f)), u"0.1!");
     EXPECT_EQ(typedLiteral(Variant(1.0 / 3)), u"0.3333333333333333#");
+    EXPECT_EQ(typedLiteral(Variant(1e15)), u"1E+15#");
+    EXPECT_EQ(typedLiteral(Variant(123456789012345.0)), u"123456789012345#");
+    EXPECT_EQ(typedLiteral(Variant(-0.00001)), u"-0.00001#");
+    EXPECT_EQ(typedLiteral(Variant(1.5e-7)), u"1.5E-7#");
     EXPECT_EQ(typedLiteral(Variant(Currency{-9223372036854775807LL - 1})),
               u"-922337203685477.5808@");
 }

@@ -89,7 +89,8 @@ TEST(Dispatch, RaisesVbErrorsForBadCalls) {
     Variant text(u"ab"), big(40000), word(u"many"), nul = Variant::null(), arr = Variant::array({});
     EXPECT_EQ(errorOf([&] { call(t, r, u"Nope", {}); }), vberr::noSuchMember);
     EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {}); }), vberr::argumentNotOptional);
-    EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {{&text, u"iCount"}}); }),
+    Variant two(std::int16_t{2});
+    EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {{&two, u"iCount"}}); }),
               vberr::argumentNotOptional);
     EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {{&text, u""}, {&big, u""}}); }), vberr::overflow);
     EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {{&text, u""}, {&word, u""}}); }),
@@ -101,7 +102,7 @@ TEST(Dispatch, RaisesVbErrorsForBadCalls) {
     EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {{&text, u""}, {&text, u"sText"}}); }),
               vberr::wrongArgumentCount);
     EXPECT_EQ(errorOf([&] {
-                  call(t, r, u"Join", {{&text, u""}, {&big, u""}, {&text, u""}, {&text, u""}});
+                  call(t, r, u"Join", {{&text, u""}, {&two, u""}, {&text, u""}, {&text, u""}});
               }),
               vberr::wrongArgumentCount);
     EXPECT_EQ(errorOf([&] { call(t, r, u"Sum", {{&text, u""}}); }), vberr::typeMismatch);

@@ -368,14 +368,38 @@ std::u16string argumentName(Reader& r) {
     return {};
 }
 
+// The shortest digits that read back to the same value, laid out as VB shows a literal: plain
+// notation for exponents from -5 to 14, E notation beyond.
 std::u16string numberText(double d, bool single) {
+    if (d == 0)
+        return std::signbit(d) ? u"-0" : u"0";
     char buf[64];
-    const auto res = single ? std::to_chars(buf, buf + sizeof buf, static_cast<float>(d))
-                            : std::to_chars(buf, buf + sizeof buf, d);
-    std::u16string out;
-    for (const char* p = buf; p != res.ptr; ++p)
-        out += *p == 'e' ? u'E' : static_cast<char16_t>(*p);
-    return out;
+    const auto res = single ? std::to_chars(buf, buf + sizeof buf, static_cast<float>(d),
+                                            std::chars_format::scientific)
+                            : std::to_chars(buf, buf + sizeof buf, d, std::chars_format::scientific);
+    const std::string sci(buf, res.ptr); // "-1.2345e+03"
+    const std::size_t e = sci.find('e');
+    const bool negative = sci[0] == '-';
+    std::string digits;
+    for (std::size_t i = negative ? 1 : 0; i < e; ++i)
+        if (sci[i] != '.')
+            digits += sci[i];
+    const int exponent = std::stoi(sci.substr(e + 1));
+    std::string out = negative ? "-" : "";
+    if (exponent < -5 || exponent >= 15) {
+        out += digits.substr(0, 1);
+        if (digits.size() > 1)
+            out += "." + digits.substr(1);
+        out += exponent < 0 ? "E-" : "E+";
+        out += std::to_string(std::abs(exponent));
+    } else if (exponent < 0) {
+        out += "0." + std::string(-exponent - 1, '0') + digits;
+    } else if (static_cast<std::size_t>(exponent) + 1 >= digits.size()) {
+        out += digits + std::string(exponent + 1 - digits.size(), '0');
+    } else {
+        out += digits.substr(0, exponent + 1) + "." + digits.substr(exponent + 1);
+    }
+    return fromUtf8(out);
 }
 
 std::u16string two(int n) {

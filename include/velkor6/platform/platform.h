@@ -6,11 +6,23 @@
 
 #include "velkor6/locale.h"
 #include "velkor6/platform/clock.h"
+#include "velkor6/platform/environment.h"
+#include "velkor6/platform/file_system.h"
+#include "velkor6/platform/input_state.h"
+#include "velkor6/platform/registry.h"
+#include "velkor6/platform/shell.h"
+#include "velkor6/platform/ui.h"
 
 namespace velkor6 {
 
 struct Platform {
     std::unique_ptr<Clock> clock;
+    std::unique_ptr<FileSystem> fileSystem;
+    std::unique_ptr<Environment> environment;
+    std::unique_ptr<InputState> input;
+    std::unique_ptr<UserInterface> ui;
+    std::unique_ptr<Shell> shell;
+    std::unique_ptr<Registry> registry;
 
     // The services of the operating system this library was built for.
     static std::unique_ptr<Platform> createNative();

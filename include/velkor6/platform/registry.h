@@ -22,7 +22,9 @@ inline constexpr RegHandle performanceData = static_cast<RegHandle>(0x80000004u)
 inline constexpr RegHandle currentConfig = static_cast<RegHandle>(0x80000005u);
 inline constexpr RegHandle dynData = static_cast<RegHandle>(0x80000006u);
 
-constexpr bool isPredefined(RegHandle h) { return h >= classesRoot && h <= dynData; }
+constexpr bool isPredefined(RegHandle h) {
+    return h >= classesRoot && h <= dynData;
+}
 } // namespace regroot
 
 // Value types as the registry stores them.
@@ -41,7 +43,9 @@ inline constexpr std::uint32_t resourceRequirementsList = 10;
 inline constexpr std::uint32_t qword = 11;
 
 // The types whose data the ANSI functions convert from UTF-16 to the ANSI code page.
-constexpr bool isText(std::uint32_t type) { return type == sz || type == expandSz || type == multiSz; }
+constexpr bool isText(std::uint32_t type) {
+    return type == sz || type == expandSz || type == multiSz;
+}
 } // namespace regtype
 
 // Access rights asked for when a key is opened.
@@ -78,7 +82,8 @@ public:
         Key() = default;
         Key(Registry& owner, RegHandle handle) : owner_(&owner), handle_(handle) {}
         Key(Key&& other) noexcept
-            : owner_(std::exchange(other.owner_, nullptr)), handle_(std::exchange(other.handle_, 0)) {}
+            : owner_(std::exchange(other.owner_, nullptr)),
+              handle_(std::exchange(other.handle_, 0)) {}
         Key& operator=(Key&& other) noexcept {
             if (this != &other) {
                 close();
@@ -135,8 +140,8 @@ public:
     virtual std::int32_t close(RegHandle key) = 0;
 
 protected:
-    virtual std::int32_t openKey(RegHandle parent, std::u16string_view subKey,
-                                 std::uint32_t access, RegHandle& result) = 0;
+    virtual std::int32_t openKey(RegHandle parent, std::u16string_view subKey, std::uint32_t access,
+                                 RegHandle& result) = 0;
 };
 
 } // namespace velkor6

@@ -1,8 +1,8 @@
 #include <ctime>
 #include <thread>
 
+#include "platform/posix/services.h"
 #include "velkor6/platform/clock.h"
-#include "velkor6/platform/platform.h"
 
 namespace velkor6 {
 namespace {
@@ -54,10 +54,10 @@ private:
 
 } // namespace
 
-std::unique_ptr<Platform> Platform::createNative() {
-    auto p = std::make_unique<Platform>();
-    p->clock = std::make_unique<PosixClock>();
-    return p;
+namespace posix {
+std::unique_ptr<Clock> createClock() {
+    return std::make_unique<PosixClock>();
 }
+} // namespace posix
 
 } // namespace velkor6

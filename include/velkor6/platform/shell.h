@@ -1,0 +1,21 @@
+// Shell service: opening documents in their programs and starting command lines.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace velkor6 {
+
+class Shell {
+public:
+    virtual ~Shell() = default;
+    // Opens a file with a verb ("open", "edit") the way the desktop does it. Like the system
+    // call, a result above 32 means success.
+    virtual std::int32_t execute(std::u16string_view verb, std::u16string_view file,
+                                 std::u16string_view parameters, std::u16string_view directory,
+                                 std::int32_t showCommand) = 0;
+    // Starts a command line without waiting for it (VB's Shell); false when it cannot start.
+    virtual bool start(std::u16string_view commandLine, std::int32_t windowStyle) = 0;
+};
+
+} // namespace velkor6

@@ -1,0 +1,17 @@
+// Public records (user-defined types) of the type library.
+#pragma once
+
+#include <string>
+
+namespace velkor6 {
+
+// The parts of a file name as vkrSeparateFile splits it.
+struct typFileInfo {
+    std::u16string lpDrive;    // one upper-case letter, or ""
+    std::u16string lpPath;     // up to and including the last separator
+    std::u16string lpFileName; // without the extension
+    std::u16string lpExt;      // without the dot
+    std::u16string lpFullName; // as passed in
+};
+
+} // namespace velkor6

@@ -1,0 +1,71 @@
+#include "com/class_factory.h"
+
+#include <atomic>
+#include <new>
+
+#include "com/com_ptr.h"
+#include "com/error_info.h"
+#include "com/server_classes.h"
+#include "com/server_state.h"
+
+namespace velkor6::com {
+namespace {
+
+class ClassFactory final : public IClassFactory {
+public:
+    explicit ClassFactory(const ClassEntry& entry) : entry_(entry) {}
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** out) override {
+        if (out == nullptr)
+            return E_POINTER;
+        if (!IsEqualIID(riid, IID_IUnknown) && !IsEqualIID(riid, IID_IClassFactory)) {
+            *out = nullptr;
+            return E_NOINTERFACE;
+        }
+        *out = static_cast<IClassFactory*>(this);
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG left = --references_;
+        if (left == 0)
+            delete this;
+        return left;
+    }
+
+    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID riid, void** out) override {
+        if (out == nullptr)
+            return E_POINTER;
+        *out = nullptr;
+        if (outer != nullptr)
+            return CLASS_E_NOAGGREGATION;
+        try {
+            const auto object = ComPtr<IDispatch>::adopt(entry_.create());
+            return object->QueryInterface(riid, out);
+        } catch (const std::bad_alloc&) {
+            return E_OUTOFMEMORY;
+        } catch (const VbError& e) {
+            return scodeOf(e.number());
+        } catch (...) {
+            return E_UNEXPECTED;
+        }
+    }
+    HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override {
+        lockServer(lock != FALSE);
+        return S_OK;
+    }
+
+private:
+    ~ClassFactory() = default;
+
+    LiveObject live_;
+    std::atomic<ULONG> references_{1};
+    const ClassEntry& entry_;
+};
+
+} // namespace
+
+IClassFactory* createClassFactory(const ClassEntry& entry) { return new ClassFactory(entry); }
+
+} // namespace velkor6::com

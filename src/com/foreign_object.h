@@ -1,0 +1,30 @@
+// The caller's automation objects (the host's application object, collections, documents,
+// controls) as velkor6 Objects, so that members call them by name.
+#pragma once
+
+#include <windows.h>
+#include <oaidl.h>
+
+#include "com/com_ptr.h"
+#include "velkor6/variant.h"
+
+namespace velkor6::com {
+
+class ForeignObject final : public Object {
+public:
+    explicit ForeignObject(ComPtr<IDispatch> dispatch) : dispatch_(std::move(dispatch)) {}
+
+    // The name of the object's type description without the leading "_" of a default interface,
+    // as VB's TypeName shows it; "Object" without one.
+    std::u16string typeName() const override;
+    // Calls through IDispatch: arguments go by reference so that the object can change them;
+    // the object's errors come back as VbError with its number, source and description.
+    Variant call(std::u16string_view name, CallKind kind, std::span<Variant> args) override;
+
+    IDispatch* dispatch() const { return dispatch_.get(); }
+
+private:
+    ComPtr<IDispatch> dispatch_;
+};
+
+} // namespace velkor6::com

@@ -1,0 +1,24 @@
+#include "com/server_classes.h"
+
+#include <string>
+#include <vector>
+
+#include "lib/lib_members.h"
+
+namespace velkor6::com {
+
+GUID guidOf(std::u16string_view text) {
+    std::u16string braced = u"{" + std::u16string(text) + u"}";
+    GUID id{};
+    IIDFromString(reinterpret_cast<LPCOLESTR>(braced.c_str()), &id);
+    return id;
+}
+
+std::span<const ClassEntry> serverClasses() {
+    static const std::vector<ClassEntry> classes{
+        ServerClass<lib, libIds, dispatch::libMembers>::entry(),
+    };
+    return classes;
+}
+
+} // namespace velkor6::com

@@ -1,0 +1,17 @@
+// The POSIX implementations of the platform services.
+#pragma once
+
+#include "velkor6/platform/platform.h"
+
+#include <memory>
+
+namespace velkor6::posix {
+
+std::unique_ptr<Clock> createClock();
+std::unique_ptr<FileSystem> createFileSystem();
+std::unique_ptr<Environment> createEnvironment();
+std::unique_ptr<InputState> createInputState();
+std::unique_ptr<UserInterface> createUserInterface();
+std::unique_ptr<Shell> createShell();
+
+} // namespace velkor6::posix

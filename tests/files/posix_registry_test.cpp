@@ -1,0 +1,81 @@
+#include "files/registry_scripts.h"
+#include "platform/posix/file_registry.h"
+#include "velkor6/lib.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <optional>
+
+namespace velkor6 {
+namespace {
+
+using regtest::ansiScript;
+using regtest::utf16Script;
+
+constexpr RegHandle hkcu = regroot::currentUser;
+
+class ScopedEnv {
+public:
+    ScopedEnv(const char* name, const char* value) : name_(name) {
+        if (const char* old = std::getenv(name))
+            old_ = old;
+        if (value != nullptr)
+            setenv(name, value, 1);
+        else
+            unsetenv(name);
+    }
+    ~ScopedEnv() {
+        if (old_)
+            setenv(name_, old_->c_str(), 1);
+        else
+            unsetenv(name_);
+    }
+    ScopedEnv(const ScopedEnv&) = delete;
+    ScopedEnv& operator=(const ScopedEnv&) = delete;
+
+private:
+    const char* name_;
+    std::optional<std::string> old_;
+};
+
+TEST(PosixRegistry, ReadsTheScriptsOfItsFolder) {
+    namespace fs = std::filesystem;
+    std::string pattern = (fs::temp_directory_path() / "velkor6-registry-XXXXXX").string();
+    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+    const fs::path folder = pattern;
+    const auto write = [&](const char* file, const std::string& bytes) {
+        std::ofstream(folder / file, std::ios::binary) << bytes;
+    };
+    write("10-base.reg", ansiScript());
+    // Applied after the first: overrides one value and adds a key.
+    write("20-more.REG", utf16Script(u"Windows Registry Editor Version 5.00\r\n\r\n"
+                                     u"[HKEY_CURRENT_USER\\Software\\Velkor Test]\r\n"
+                                     u"\"Text\"=\"second\"\r\n"
+                                     u"[HKEY_CURRENT_USER\\Software\\Velkor Test\\Leaf\\New]\r\n"));
+    write("30-ignored.txt", "REGEDIT4\r\n[HKEY_CURRENT_USER\\Software\\Velkor Test]\r\n"
+                            "\"Number\"=\"1\"\r\n");
+
+    std::unique_ptr<Platform> platform;
+    {
+        ScopedEnv registry("VELKOR6_REGISTRY", folder.c_str());
+        EXPECT_EQ(posix::registryFolder(), folder);
+        platform = Platform::createNative();
+    }
+    {
+        ScopedEnv registry("VELKOR6_REGISTRY", nullptr);
+        ScopedEnv config("XDG_CONFIG_HOME", "/srv/config");
+        EXPECT_EQ(posix::registryFolder(), fs::path("/srv/config/velkor6"));
+    }
+    lib l(std::make_shared<Module>(std::move(platform), Locale::englishUS()));
+    const std::u16string_view key = u"Software\\Velkor Test";
+    EXPECT_EQ(l.regGetString(hkcu, key, u"Text"), u"second");
+    EXPECT_EQ(l.regGetLong(hkcu, key, u"Number"), 42);
+    EXPECT_EQ(l.regGetLong(hkcu, key, u"Dword"), -1);
+    EXPECT_EQ(l.regSubKeyCount(hkcu, std::u16string(key) + u"\\Leaf"), 2);
+    fs::remove_all(folder);
+}
+
+} // namespace
+} // namespace velkor6

@@ -1,0 +1,127 @@
+// The path, file and folder members with their POSIX meanings, over a real temporary tree.
+#include "fake/temp_folder.h"
+#include "velkor6/lib.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace velkor6 {
+namespace {
+
+class FilesOnPosix : public ::testing::Test {
+protected:
+    fake::TempFolder tmp;
+    lib l{Module::createDefault()};
+};
+
+TEST_F(FilesOnPosix, PathsUseSlashesAndNoDrives) {
+    EXPECT_EQ(l.vkrGetFullPath(u"/srv/app", u"x.ini"), u"/srv/app/x.ini");
+    EXPECT_EQ(l.vkrGetFullPath(u"/srv/app/", u"/x.ini"), u"/srv/app/x.ini");
+    EXPECT_EQ(l.vkrGetFullPath(u"C:\\App\\", u"\\x.ini"), u"C:\\App\\x.ini");
+    EXPECT_EQ(l.vkrGetAbsolutePath(u"/srv/app/data/app.ini", u"..\\logs\\run.log"),
+              u"/srv/app/logs/run.log");
+    EXPECT_EQ(l.vkrGetAbsolutePath(u"/srv/app/data/app.ini", u"/etc/x"), u"/etc/x");
+
+    tmp.mkdir("app/data");
+    EXPECT_EQ(l.vkrGetRelativePath(tmp.u16("app/data"), tmp.u16("app/logs/run.log")),
+              u"../logs/run.log");
+    EXPECT_EQ(l.vkrGetRelativePath(tmp.u16("app/data/app.ini"), tmp.u16("app/data/sub/a.txt")),
+              u"./sub/a.txt");
+
+    typFileInfo info;
+    ASSERT_TRUE(l.vkrSeparateFile(u"/srv/app\\data/report.2024.txt", info));
+    EXPECT_EQ(info.lpDrive, u"");
+    EXPECT_EQ(info.lpPath, u"/srv/app\\data/");
+    EXPECT_EQ(info.lpFileName, u"report.2024");
+    EXPECT_EQ(info.lpExt, u"txt");
+
+    const std::u16string temp = l.vkrTempDir();
+    ASSERT_FALSE(temp.empty());
+    EXPECT_EQ(temp.back(), u'/');
+    EXPECT_EQ(l.vkrSystemDir(), u"/usr");
+}
+
+TEST_F(FilesOnPosix, FilesAndAttributes) {
+    const std::u16string file = tmp.u16("text.txt");
+    l.vkrFileStreamLet(file, u"Grüße");
+    EXPECT_EQ(l.vkrFileStream(file), u"Grüße\r\n");
+    EXPECT_TRUE(l.vkrFileExists(file));
+    EXPECT_FALSE(l.vkrFileExists(tmp.u16()));
+    EXPECT_TRUE(l.vkrPathExists(tmp.u16()));
+    EXPECT_FALSE(l.vkrPathExists(file));
+
+    tmp.write(".profile");
+    testing::internal::CaptureStderr();
+    EXPECT_TRUE(l.vkrCheckAttributes(file, 0));
+    EXPECT_FALSE(l.vkrCheckAttributes(tmp.u16(".profile"), 0));
+    EXPECT_TRUE(l.vkrCheckAttributes(tmp.u16(".profile"), 2));
+    EXPECT_FALSE(l.vkrCheckAttributes(tmp.u16(), 0));
+    const std::string shown = testing::internal::GetCapturedStderr();
+    EXPECT_NE(shown.find("[velkor6] Diese Datei ist versteckt und kann deshalb nicht"),
+              std::string::npos);
+    EXPECT_NE(shown.find("Der eingegebene Name zeigt auf ein Verzeichnis"), std::string::npos);
+}
+
+TEST_F(FilesOnPosix, FindFileTriesAFoldersFilesFirst) {
+    tmp.write("a/b/c/target.ini");
+    tmp.write("a/b/other.INI");
+    tmp.write("a/z/notes.txt");
+    std::filesystem::create_symlink(tmp.path() / "a", tmp.path() / "a/b/loop");
+
+    EXPECT_EQ(l.vkrFindFile(u"*.ini", tmp.u16("a")), tmp.u16("a/b/other.INI"));
+    EXPECT_EQ(l.vkrFindFile(u"TARGET.INI", tmp.u16("a")), tmp.u16("a/b/c/target.ini"));
+    EXPECT_EQ(l.vkrFindFile(u"n?tes.*", tmp.u16() + u"\\a\\"), tmp.u16("a/z/notes.txt"));
+    EXPECT_EQ(l.vkrFindFile(u"missing", tmp.u16()), u"");
+}
+
+TEST_F(FilesOnPosix, Folders) {
+    fake::CurrentDirectoryGuard guard;
+    EXPECT_TRUE(l.prfMakeDir(tmp.u16("one/two/three/")));
+    EXPECT_TRUE(std::filesystem::is_directory(tmp.path() / "one/two/three"));
+    EXPECT_TRUE(l.prfMakeDir(u"/"));
+    tmp.write("file");
+    EXPECT_FALSE(l.prfMakeDir(tmp.u16("file/sub")));
+
+    EXPECT_TRUE(l.prfChangeDir(tmp.u16("one/two") + u"\\"));
+    EXPECT_EQ(std::filesystem::current_path(), tmp.path() / "one/two");
+    EXPECT_TRUE(l.prfChangeDir(u"/"));
+    EXPECT_FALSE(l.prfChangeDir(tmp.u16("missing")));
+
+    tmp.write("list/A.txt");
+    tmp.write("list/a.txt");
+    tmp.write("list/.a-hidden.txt");
+    tmp.mkdir("list/a-folder");
+    const Variant kept = l.prfGetFileList(tmp.u16("list"), u"*.*", u"a*");
+    ASSERT_EQ(kept.array().items.size(), 1u);
+    EXPECT_EQ(kept.array().items[0], Variant(u"a.txt"));
+    EXPECT_EQ(l.prfGetFileList(tmp.u16("list"), u"*.TXT").array().items.size(), 2u);
+
+    EXPECT_EQ(l.prfIsAdmin(), ::geteuid() == 0);
+}
+
+TEST_F(FilesOnPosix, CompareFoldersNeverLosesANewerTarget) {
+    tmp.write("setup/new.txt", "new");
+    tmp.write("setup/newer.txt", "setup");
+    tmp.write("setup/older.txt", "setup");
+    tmp.write("app/newer.txt", "in use");
+    tmp.write("app/older.txt", "edited");
+    const auto now = std::filesystem::file_time_type::clock::now();
+    std::filesystem::last_write_time(tmp.path() / "app/newer.txt", now - std::chrono::hours(2));
+    std::filesystem::last_write_time(tmp.path() / "setup/older.txt", now - std::chrono::hours(2));
+
+    // Without a display the question goes to standard error and its default button (yes)
+    // answers it.
+    testing::internal::CaptureStderr();
+    EXPECT_TRUE(l.prfCompareFolders(tmp.u16("setup"), tmp.u16("app")));
+    const std::string asked = testing::internal::GetCapturedStderr();
+
+    const auto read = [&](const char* name) { return l.vkrFileStream(tmp.u16(name)); };
+    EXPECT_EQ(read("app/new.txt"), u"new");
+    EXPECT_EQ(read("app/newer.txt"), u"setup");
+    EXPECT_EQ(read("app/older.txt"), u"edited");
+    EXPECT_NE(asked.find("[Dateivergleich] Die Datei 'newer.txt'"), std::string::npos);
+    EXPECT_EQ(asked.find("older.txt"), std::string::npos);
+}
+
+} // namespace
+} // namespace velkor6

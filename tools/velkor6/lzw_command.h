@@ -1,0 +1,15 @@
+// velkor6 deflate / velkor6 inflate [--strict]: compress or decompress standard input to standard
+// output, each byte standing for the character with that ANSI code.
+#pragma once
+
+#include <iosfwd>
+#include <iostream>
+
+namespace velkor6::cli {
+
+int runDeflate(std::istream& in, std::ostream& out);
+// Decodes like "Inflate", or like "InflateStrict" when `strict`. Errors go to `err`; nothing is
+// written to `out` then.
+int runInflate(std::istream& in, std::ostream& out, bool strict, std::ostream& err = std::cerr);
+
+} // namespace velkor6::cli
