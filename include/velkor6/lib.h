@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "velkor6/applib.h"
 #include "velkor6/module.h"
 #include "velkor6/records.h"
 #include "velkor6/variant.h"
@@ -15,10 +16,17 @@ namespace velkor6 {
 
 class lib {
 public:
+    // Creates and initialises the library's own application context "velkor6".
     explicit lib(std::shared_ptr<Module> module);
 
     Module& module() { return *module_; }
     const Locale& locale() const { return module_->locale(); }
+
+    // --- Application context -------------------------------------------------------------
+    // A new, initialised context for the host application; each call makes an independent one.
+    std::shared_ptr<applib> vkrInitApp(const HostApp& oApp, std::u16string_view sAppName);
+    // The library's own context.
+    applib& ownApp() { return *app_; }
 
     // --- Substring search, count and replace ---------------------------------------------
     std::int16_t vkrFindSubString(std::u16string_view sSource, std::u16string_view sFind,
@@ -129,8 +137,25 @@ public:
     // Fills sKeys with the names of the direct sub-keys; leaves it alone when the key does not open.
     void regFindKeys(std::int32_t lRegKey, std::u16string_view sRegSubKey, VariantArray& sKeys);
 
+    // --- XML resources and resource libraries -----------------------------------------------
+    // Lookups in the caller's resource document (a DOM document answering selectNodes) or in
+    // one of its nodes; missing items and attributes give "".
+    std::u16string vkrXMLRes(const ObjectRef& oDOMDoc, std::u16string_view sName,
+                             std::int16_t iNumber = -1);
+    std::u16string vkrXMLItemProp(const ObjectRef& oXMLNode, std::u16string_view sProp);
+    void vkrXMLFillList(const ObjectRef& oDOMDoc, const ObjectRef& oList,
+                        std::u16string_view sName);
+    void vkrXMLFillTabStrip(const ObjectRef& oDOMDoc, const ObjectRef& oTab,
+                            std::u16string_view sName);
+    void vkrXMLFillComboWithResList(const ObjectRef& oDOMDoc, const ObjectRef& oCombo,
+                                    std::u16string_view sResID,
+                                    std::u16string_view sInclNoFormat = {});
+    // The string lResID of the string tables of oApp's resource library for its language.
+    std::u16string vkrRes(applib& oApp, std::int32_t lResID);
+
 private:
     std::shared_ptr<Module> module_;
+    std::shared_ptr<applib> app_;
     std::u16string windowsDirectory_;
 };
 

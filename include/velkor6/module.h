@@ -1,6 +1,7 @@
 // The module context: everything that lives as long as the library is loaded.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -26,10 +27,23 @@ public:
     // The user's temporary folder, read once for the whole module; empty until first use.
     std::u16string& tempFolderCache() { return tempFolder_; }
 
+    // Whether application logs are kept across starts; read by the library's own context.
+    bool keepLogFiles() const { return keepLogFiles_; }
+    void setKeepLogFiles(bool keep) { keepLogFiles_ = keep; }
+    // The language of the most recently initialised or asked application context; the dialogs
+    // and the members without a context use it.
+    std::int16_t currentLanguage() const { return currentLanguage_; }
+    void setCurrentLanguage(std::int16_t language) { currentLanguage_ = language; }
+    // The library's own resource document, shared by the dialogs; filled on first use.
+    std::shared_ptr<XmlDocument>& resourceDocument() { return resourceDocument_; }
+
 private:
     std::unique_ptr<Platform> platform_;
     Locale locale_;
     std::u16string tempFolder_;
+    bool keepLogFiles_ = false;
+    std::int16_t currentLanguage_ = 1;
+    std::shared_ptr<XmlDocument> resourceDocument_;
 };
 
 } // namespace velkor6

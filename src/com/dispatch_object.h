@@ -6,7 +6,6 @@
 
 #include <atomic>
 #include <memory>
-#include <type_traits>
 
 #include "com/call_arguments.h"
 #include "com/class_type_info.h"
@@ -16,6 +15,7 @@
 #include "com/object_wrap.h"
 #include "com/server_state.h"
 #include "com/variant_convert.h"
+#include "lib/dispatch_object.h"
 #include "velkor6/module.h"
 
 namespace velkor6::com {
@@ -24,12 +24,14 @@ template <class Target>
 class DispatchObject final : public IDispatch, public OwnObject {
 public:
     // A new object with one reference, which the caller owns.
-    // className and interfaceId name the class's type description in the type library.
+    // className and interfaceId name the class's type description in the type library;
+    // object, when given, is the library's value for the same target (what members that
+    // take the object receive).
     static DispatchObject* create(std::shared_ptr<Target> target, const MemberIndex<Target>& index,
                                   std::u16string_view className, const GUID& interfaceId,
-                                  std::shared_ptr<Module> context) {
+                                  std::shared_ptr<Module> context, ObjectRef object = nullptr) {
         return new DispatchObject(std::move(target), index, className, interfaceId,
-                                  std::move(context));
+                                  std::move(context), std::move(object));
     }
 
     // IUnknown
@@ -123,10 +125,11 @@ public:
 
     // OwnObject
     ObjectRef STDMETHODCALLTYPE object() override {
-        if constexpr (std::is_base_of_v<Object, Target>)
-            return target_;
-        else
-            return nullptr;
+        if (!object_) {
+            object_ = std::make_shared<dispatch::TableObject<Target>>(target_, index_.table(),
+                                                                      std::u16string(className_));
+        }
+        return object_;
     }
     const void* STDMETHODCALLTYPE owner() override { return thisModuleToken(); }
 
@@ -135,9 +138,9 @@ public:
 private:
     DispatchObject(std::shared_ptr<Target> target, const MemberIndex<Target>& index,
                    std::u16string_view className, const GUID& interfaceId,
-                   std::shared_ptr<Module> context)
+                   std::shared_ptr<Module> context, ObjectRef object)
         : target_(std::move(target)), index_(index), className_(className),
-          interfaceId_(interfaceId), context_(std::move(context)) {}
+          interfaceId_(interfaceId), context_(std::move(context)), object_(std::move(object)) {}
     ~DispatchObject() = default;
 
     static std::u16string_view name(LPOLESTR s) {
@@ -161,6 +164,7 @@ private:
     std::u16string_view className_;
     GUID interfaceId_;
     std::shared_ptr<Module> context_;
+    ObjectRef object_;
     ComPtr<ITypeInfo> typeInfo_;
     bool typeInfoLooked_ = false;
 };

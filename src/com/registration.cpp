@@ -43,7 +43,8 @@ HKEY rootOf(Scope scope) { return scope == Scope::User ? HKEY_CURRENT_USER : HKE
 std::wstring braced(std::u16string_view guid) { return L"{" + win32::wide(guid) + L"}"; }
 
 std::wstring classesPath(std::wstring_view rest) {
-    return L"Software\\Classes\\" + std::wstring(rest);
+    return rest.empty() ? std::wstring(L"Software\\Classes")
+                        : L"Software\\Classes\\" + std::wstring(rest);
 }
 
 // Creates the key (and its parents) and sets a string value; an empty name is the default.
@@ -65,18 +66,21 @@ LONG deleteTree(Scope scope, const std::wstring& key) {
     return rc;
 }
 
-// Deletes a key that has no sub-keys left; keeps it (and says so) otherwise.
+// Deletes a key that holds nothing (no sub-keys, no values); says whether it is gone.
 bool deleteIfEmpty(Scope scope, const std::wstring& key) {
-    RegKey k;
-    if (RegOpenKeyExW(rootOf(scope), classesPath(key).c_str(), 0, KEY_READ, k.put()) !=
-        ERROR_SUCCESS)
-        return true;
-    DWORD subKeys = 0;
-    if (RegQueryInfoKeyW(k.get(), nullptr, nullptr, nullptr, &subKeys, nullptr, nullptr, nullptr,
-                         nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS ||
-        subKeys != 0)
-        return false;
-    return deleteTree(scope, key) == ERROR_SUCCESS;
+    const std::wstring path = classesPath(key);
+    {
+        RegKey k;
+        if (RegOpenKeyExW(rootOf(scope), path.c_str(), 0, KEY_READ, k.put()) != ERROR_SUCCESS)
+            return true;
+        DWORD subKeys = 0;
+        DWORD values = 0;
+        if (RegQueryInfoKeyW(k.get(), nullptr, nullptr, nullptr, &subKeys, nullptr, nullptr,
+                             &values, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS ||
+            subKeys != 0 || values != 0)
+            return false;
+    }
+    return RegDeleteKeyW(rootOf(scope), path.c_str()) == ERROR_SUCCESS;
 }
 
 std::wstring typeLibVersion() {
@@ -164,6 +168,10 @@ HRESULT unregisterServer(Scope scope) {
         if (last)
             ok = deleteTree(scope, L"Interface\\" + braced(c.ids.interfaceId)) == ERROR_SUCCESS && ok;
     }
+    // Parents the registration had to create go too, when nothing else is in them.
+    for (const wchar_t* parent : {L"CLSID", L"Interface", L"TypeLib"})
+        deleteIfEmpty(scope, parent);
+    deleteIfEmpty(scope, L"");
     return ok ? S_OK : SELFREG_E_CLASS;
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "lib/applib_members.h"
 #include "lib/lib_members.h"
 
 namespace velkor6::com {
@@ -17,6 +18,7 @@ GUID guidOf(std::u16string_view text) {
 std::span<const ClassEntry> serverClasses() {
     static const std::vector<ClassEntry> classes{
         ServerClass<lib, libIds, dispatch::libMembers>::entry(),
+        ServerClass<applib, applibIds, dispatch::applibMembers>::entry(),
     };
     return classes;
 }

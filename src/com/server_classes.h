@@ -8,7 +8,6 @@
 #include <memory>
 #include <span>
 #include <string>
-#include <type_traits>
 
 #include "com/class_ids.h"
 #include "com/dispatch_object.h"
@@ -39,17 +38,16 @@ struct ServerClass {
         static const GUID id = guidOf(Ids.interfaceId);
         return id;
     }
-    static IDispatch* dispatchFor(std::shared_ptr<Target> target) {
-        return DispatchObject<Target>::create(std::move(target), index(), Ids.name, interfaceId(),
-                                              serverContext());
+    static IDispatch* create() {
+        return DispatchObject<Target>::create(std::make_shared<Target>(serverContext()), index(),
+                                              Ids.name, interfaceId(), serverContext());
     }
-    static IDispatch* create() { return dispatchFor(std::make_shared<Target>(serverContext())); }
     static IDispatch* wrap(const ObjectRef& object) {
-        if constexpr (std::is_base_of_v<Object, Target>) {
-            if (auto target = std::dynamic_pointer_cast<Target>(object))
-                return dispatchFor(std::move(target));
-        }
-        return nullptr;
+        const auto* value = dynamic_cast<const dispatch::TableObject<Target>*>(object.get());
+        if (value == nullptr)
+            return nullptr;
+        return DispatchObject<Target>::create(value->target(), index(), Ids.name, interfaceId(),
+                                              serverContext(), object);
     }
     static ClassEntry entry() {
         return {Ids, guidOf(Ids.classId), interfaceId(), &create, &wrap};

@@ -30,8 +30,6 @@ Variant convertTo(const Variant& v, VarType type, const Locale& loc);
 // Text to number as the automation parser reads it: blanks, one sign (leading or trailing),
 // parentheses for negatives, grouping marks in the integer part, the currency symbol, one
 // decimal separator, an exponent, &H and &O. Anything else makes it fail (nullopt).
-// The result is the narrowest of Integer, Long and Double that holds the value, like VB does
-// for a numeric string in arithmetic.
 std::optional<double> parseNumber(std::u16string_view text, const Locale& loc);
 
 bool isNumeric(const Variant& v, const Locale& loc);

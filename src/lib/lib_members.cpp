@@ -11,6 +11,8 @@ const Table<lib>& libMembers() {
         addSqlMembers(t);
         addFileMembers(t);
         addRegistryMembers(t);
+        addInitAppMembers(t);
+        addResourceMembers(t);
         return t;
     }();
     return table;

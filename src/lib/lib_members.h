@@ -15,5 +15,7 @@ void addCallByNameMembers(Table<lib>& table);
 void addSqlMembers(Table<lib>& table);
 void addRegistryMembers(Table<lib>& table);
 void addFileMembers(Table<lib>& table);
+void addInitAppMembers(Table<lib>& table);
+void addResourceMembers(Table<lib>& table);
 
 } // namespace velkor6::dispatch

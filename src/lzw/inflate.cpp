@@ -1,151 +1,128 @@
-// The decoder as the original has it. Learned strings are kept as runs of the output rather than as
-// texts: a string learned from the previous string and the first byte of the current one is the
-// run that ends one byte into the current string. Only a damaged stream (a dictionary that
-// overflows without a clear code) can learn a string that is no such run; those go to a side
-// buffer.
-#include "lzw/bit_stream.h"
+#include "lzw/loose_decoder.h"
 #include "lzw/lzw.h"
-#include "lzw/output_buffer.h"
+#include "lzw/strict_decoder.h"
+
+#include <optional>
 
 namespace velkor6::lzw {
 namespace {
 
-// A learned string: a run of the output, or of the side buffer. Length 0 is the empty entry.
-struct Run {
-    std::size_t pos = 0;
-    std::uint32_t length = 0;
-    bool aside = false;
-};
+[[noreturn]] void missingCode() {
+    throw VbError(vberr::subscriptOutOfRange);
+}
 
-class LooseDecoder {
-public:
-    LooseDecoder(std::size_t expected, std::size_t limit) : out_(expected, limit), limit_(limit) {}
-
-    // What the first code after the leading clear code stands for; nothing is learned.
-    Run start(std::uint32_t code) {
-        if (code < 256)
-            return emitByte(code);
-        return emit(entry_[code]);
-    }
-
-    // One code after that; returns the run that the next code sees as its predecessor.
-    Run step(std::uint32_t code, Run prev) {
-        if (code < 256) {
-            const Run cur = emitByte(code);
-            learn(joined(prev, cur.pos));
-            return cur;
-        }
-        const Run e = entry_[code];
-        if (e.length != 0) {
-            const Run cur = emit(e);
-            const bool cleared = learn(joined(prev, cur.pos));
-            // A clear while learning empties the entry just read, or puts the new string there.
-            return cleared ? entry_[code] : cur;
-        }
-        // An empty entry is taken for the string that is being learned right now.
-        Run x;
-        if (prev.length != 0) {
-            const unsigned char first = firstByte(prev);
-            x = emit(prev);
-            out_.push(first);
-            ++x.length;
-        }
-        const std::uint32_t at = learnAt(x);
-        return at == code ? x : Run{};
-    }
-
-    void clear() {
-        for (std::uint32_t k = firstLearned; k < next_; ++k)
-            entry_[k] = Run{};
-        next_ = firstLearned;
-    }
-
-    std::string take() { return out_.take(); }
-
-private:
-    Run emitByte(std::uint32_t byte) {
-        const Run r{out_.size(), 1, false};
-        out_.push(static_cast<unsigned char>(byte));
-        return r;
-    }
-
-    Run emit(Run r) {
-        const Run at{out_.size(), r.length, false};
-        if (r.aside)
-            out_.append(aside_.data() + r.pos, r.length);
-        else
-            out_.copyWithin(r.pos, r.length);
-        return at;
-    }
-
-    unsigned char firstByte(Run r) const {
-        return r.aside ? static_cast<unsigned char>(aside_[r.pos]) : out_.at(r.pos);
-    }
-
-    // The string `prev` followed by the byte at `pos` of the output.
-    Run joined(Run prev, std::size_t pos) {
-        if (prev.length == 0)
-            return Run{pos, 1, false};
-        if (!prev.aside && prev.pos + prev.length == pos)
-            return Run{prev.pos, prev.length + 1, false};
-        if (prev.length + 1 > limit_ - aside_.size())
-            throw VbError(vberr::outOfStringSpace);
-        const std::size_t at = aside_.size();
-        if (prev.aside)
-            aside_.append(aside_, prev.pos, prev.length);
-        else
-            aside_.append(out_.view(prev.pos, prev.length));
-        aside_.push_back(static_cast<char>(out_.at(pos)));
-        return Run{at, prev.length + 1, true};
-    }
-
-    // Returns whether the dictionary was full and had to be cleared first.
-    bool learn(Run r) {
-        learnAt(r);
-        return clearedLast_;
-    }
-
-    std::uint32_t learnAt(Run r) {
-        clearedLast_ = next_ == tableSize;
-        if (clearedLast_)
-            clear();
-        entry_[next_] = r;
-        return next_++;
-    }
-
-    OutputBuffer out_;
-    std::string aside_;
-    std::size_t limit_;
-    Run entry_[tableSize]; // entries below 256 are never read: single bytes are emitted directly
-    std::uint32_t next_ = firstLearned;
-    bool clearedLast_ = false;
-};
+// Room for the output of typical text, so that the buffer seldom grows.
+std::size_t expectedSize(std::string_view packed) {
+    return packed.size() * 2;
+}
 
 } // namespace
 
 std::string inflate(std::string_view packed, std::size_t limit) {
-    const CodeReader codes(packed);
+    const CodeReader codes = CodeReader::stored(packed);
     if (codes.count() == 0)
-        throw VbError(vberr::subscriptOutOfRange);
-    if (codes[0] != clearCode)
+        missingCode();
+    if (codes.first() != clearCode)
         return {};
     if (codes.count() < 2)
-        throw VbError(vberr::subscriptOutOfRange);
-
-    LooseDecoder d(packed.size() * 2, limit);
-    Run prev = d.start(codes[1]);
-    for (std::size_t i = 2; i < codes.count(); ++i) {
-        const std::uint32_t c = codes[i];
-        if (c == clearCode) {
-            d.clear();
-            prev = Run{};
-        } else if (c == endCode) {
-            break;
-        } else {
-            prev = d.step(c, prev);
-        }
-    }
+        missingCode();
+    LooseDecoder d(expectedSize(packed), limit, nullptr);
+    d.start(codes[1]);
+    d.decode(codes, 2);
     return d.take();
+}
+
+std::string inflateStrict(std::string_view packed, std::size_t limit) {
+    const CodeReader codes = CodeReader::stored(packed);
+    if (codes.count() == 0)
+        missingCode();
+    if (codes.first() != clearCode)
+        return {};
+    StrictDecoder d(expectedSize(packed), limit, nullptr);
+    if (!d.decode(codes, 1))
+        missingCode();
+    return d.take();
+}
+
+// The input is kept as bytes of the full stream, its dropped zero byte put back in front, and
+// decoded in segments of whole groups of eight codes, so that every segment starts at a code the
+// decoders' group reading expects.
+class Inflater::Impl {
+public:
+    Impl(bool strict, Sink sink, std::size_t limit, std::size_t window)
+        : strict_(strict), sink_(std::move(sink)), limit_(limit), window_(window) {}
+
+    void write(std::string_view piece) {
+        if (state_ == State::done)
+            return;
+        pending_.append(piece);
+        if (pending_.size() >= segmentSize)
+            decode(pending_.size() / 9 * 9, false);
+    }
+
+    void finish() {
+        if (state_ != State::done)
+            decode(pending_.size(), true);
+    }
+
+private:
+    enum class State { first, running, done };
+    static constexpr std::size_t segmentSize = std::size_t{1} << 16;
+
+    void decode(std::size_t bytes, bool last) {
+        const CodeReader codes = CodeReader::segment(std::string_view(pending_).substr(0, bytes));
+        std::size_t from = 0;
+        if (state_ == State::first) {
+            if (codes.count() == 0)
+                missingCode();
+            if (codes[0] != clearCode) {
+                state_ = State::done;
+                return;
+            }
+            if (strict_) {
+                strictDecoder_.emplace(window_, limit_, &sink_);
+                from = 1;
+            } else {
+                if (codes.count() < 2)
+                    missingCode();
+                looseDecoder_.emplace(window_, limit_, &sink_);
+                looseDecoder_->start(codes[1]);
+                from = 2;
+            }
+            state_ = State::running;
+        }
+        const bool ended =
+            strict_ ? strictDecoder_->decode(codes, from) : looseDecoder_->decode(codes, from);
+        pending_.erase(0, bytes);
+        if (!ended && !last)
+            return;
+        if (!ended && strict_)
+            missingCode();
+        state_ = State::done;
+        if (strict_)
+            strictDecoder_->finish();
+        else
+            looseDecoder_->finish();
+    }
+
+    bool strict_;
+    Sink sink_;
+    std::size_t limit_;
+    std::size_t window_;
+    State state_ = State::first;
+    std::string pending_ = std::string(1, '\0');
+    std::optional<StrictDecoder> strictDecoder_;
+    std::optional<LooseDecoder> looseDecoder_;
+};
+
+Inflater::Inflater(bool strict, Sink sink, std::size_t limit, std::size_t window)
+    : impl_(std::make_unique<Impl>(strict, std::move(sink), limit, window)) {}
+Inflater::~Inflater() = default;
+void Inflater::write(std::string_view piece) {
+    impl_->write(piece);
+}
+void Inflater::finish() {
+    impl_->finish();
 }
 
 } // namespace velkor6::lzw

@@ -5,6 +5,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -37,5 +39,30 @@ std::string inflate(std::string_view packed, std::size_t limit = maxDecodedSize)
 // stream deflate() cannot have written (a code that is not yet defined, a dictionary overflow
 // without a clear code, no end code).
 std::string inflateStrict(std::string_view packed, std::size_t limit = maxDecodedSize);
+
+// Output handed on piece by piece.
+using Sink = std::function<void(std::string_view)>;
+
+// Decodes a compressed stream that arrives in pieces, like inflate() or inflateStrict() on the
+// whole of it, and hands the output to a sink as it comes, holding only the part that the
+// dictionary still refers to. Raises the same errors, the strict decoder's missing end code at
+// finish(); by then the output decoded before an error has been handed on.
+class Inflater {
+public:
+    // The output is handed on whenever about `window` bytes of it are held.
+    static constexpr std::size_t defaultWindow = std::size_t{1} << 18;
+    Inflater(bool strict, Sink sink, std::size_t limit = maxDecodedSize,
+             std::size_t window = defaultWindow);
+    ~Inflater();
+    Inflater(const Inflater&) = delete;
+    Inflater& operator=(const Inflater&) = delete;
+
+    void write(std::string_view piece);
+    void finish();
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> impl_;
+};
 
 } // namespace velkor6::lzw

@@ -20,8 +20,11 @@ std::size_t lastIndexOf(std::u16string_view s, std::u16string_view find, std::si
         const std::size_t at = s.rfind(find, last);
         return at != npos && at >= first ? at : npos;
     }
+    const char16_t small = foldCase(find[0]);
+    const char16_t capital = toUpper(small);
     for (std::size_t i = last + 1; i-- > first;) {
-        if (textEqual(s.substr(i, find.size()), find, Compare::Text))
+        if ((s[i] == small || s[i] == capital) &&
+            textEqual(s.substr(i, find.size()), find, Compare::Text))
             return i;
     }
     return npos;

@@ -66,8 +66,9 @@ std::int64_t quotesIn(std::u16string_view s) {
     return std::count(s.begin(), s.end(), u'"');
 }
 
-// Replacing an empty match puts the loop back where it was when it is the second one at the
-// same place: from then on it would repeat for ever. The Integer position would overflow.
+// After two replacements of an empty match at one place, every further step sees the same text
+// around p as the one before: the loop would never end. The Integer position overflows on the
+// way (with an empty replacement it would not even move, and the call would hang).
 class EmptyMatchGuard {
 public:
     void replaced(std::size_t cursor, std::size_t length) {

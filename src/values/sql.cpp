@@ -21,6 +21,14 @@ const Variant& element(const VariantArray& a, std::int64_t index) {
     return a.items[static_cast<std::size_t>(index - a.bounds[0].lower)];
 }
 
+// The value read as a number, or as a date when it is text that is no number: date text is as
+// good a date literal as a Date value.
+double serialOf(const Variant& v, const Locale& loc) {
+    if (v.isString() && !parseNumber(v.string(), loc))
+        return toDate(v, loc).serial;
+    return toDouble(v, loc);
+}
+
 // What "&" makes of a value: Null adds nothing.
 std::u16string concatText(const Variant& v, const Locale& loc) {
     return v.isNull() ? std::u16string() : toString(v, loc);
@@ -44,7 +52,8 @@ std::u16string literal(const Variant& v, const Locale& loc, Date today) {
 std::u16string sqlDate(const Variant& v, bool msSqlServer, const Locale& loc, Date today) {
     if (msSqlServer)
         return u"CONVERT(DATETIME, '" + format(v, serverMask, loc) + u"', 102)";
-    const bool hasTime = toDouble(v, loc) != static_cast<double>(toLong(v, loc));
+    const double serial = serialOf(v, loc);
+    const bool hasTime = serial != static_cast<double>(toLong(Variant(serial), loc));
     return format(typedConversion(7, v, loc, today),
                   hasTime ? desktopDateTimeMask : desktopDateMask, loc);
 }

@@ -1,5 +1,9 @@
 #include "fake/fake_platform.h"
 
+#ifndef _WIN32
+#include "platform/posix/xml_service.h"
+#endif
+
 namespace velkor6::fake {
 namespace {
 
@@ -18,6 +22,15 @@ std::unique_ptr<Platform> makePlatform() {
     p->ui = std::make_unique<FakeUi>();
     p->shell = std::make_unique<FakeShell>();
     p->registry = std::make_unique<MemoryRegistry>();
+    p->fileStore = std::make_unique<FakeFileStore>(static_cast<FakeFileSystem&>(*p->fileSystem));
+    p->windowManager = std::make_unique<FakeWindowManager>();
+#ifndef _WIN32
+    // Parsing touches nothing of the system: the tests use the real parser.
+    p->xml = posix::createXmlService();
+#endif
+    // A folder that does not exist: the library's own settings stay unwritten unless a test
+    // creates it.
+    p->libraryFolder = u"C:\\Program Files (x86)\\velkor6";
     return p;
 }
 
@@ -34,7 +47,8 @@ FakePlatform::FakePlatform(std::unique_ptr<Platform> p, const Locale& locale)
     : clock(as<FakeClock>(p->clock)), files(as<FakeFileSystem>(p->fileSystem)),
       environment(as<FakeEnvironment>(p->environment)), input(as<FakeInput>(p->input)),
       ui(as<FakeUi>(p->ui)), shell(as<FakeShell>(p->shell)),
-      registry(as<MemoryRegistry>(p->registry)),
+      registry(as<MemoryRegistry>(p->registry)), fileStore(as<FakeFileStore>(p->fileStore)),
+      windows(as<FakeWindowManager>(p->windowManager)),
       module(std::make_shared<Module>(std::move(p), locale)) {}
 
 } // namespace velkor6::fake

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "fake/fake_clock.h"
+#include "fake/fake_file_store.h"
 #include "fake/fake_file_system.h"
 #include "fake/fake_services.h"
+#include "fake/fake_window_manager.h"
 #include "platform/memory_registry.h"
 #include "velkor6/module.h"
 
@@ -22,6 +24,8 @@ struct FakePlatform {
     FakeUi& ui;
     FakeShell& shell;
     MemoryRegistry& registry; // empty until a test loads a script
+    FakeFileStore& fileStore;
+    FakeWindowManager& windows;
     std::shared_ptr<Module> module;
 
 private:

@@ -111,17 +111,22 @@ TEST_F(FilesOnWindows, ChangeToPathDropsTheLastComponent) {
     EXPECT_EQ(fp.files.currentDirectory(), u"D:\\Tools");
 }
 
-TEST_F(FilesOnWindows, SystemAndTempFolderCaches) {
-    EXPECT_EQ(l.vkrSystemDir(), u"C:\\Windows");
-    fp.files.setWindowsFolder(u"C:\\WINNT");
-    EXPECT_EQ(l.vkrSystemDir(), u"C:\\Windows"); // kept per object
-    lib second(fp.module);
-    EXPECT_EQ(second.vkrSystemDir(), u"C:\\WINNT");
-
+TEST(FilesOnWindowsCaches, SystemAndTempFolder) {
+    // The temporary folder is read once for the module, at the latest by the first lib object.
+    fake::FakePlatform fp;
     fp.files.setTempFolder(u"C:\\Temp");
+    fp.files.addFolder(u"C:\\Temp");
+    lib l(fp.module);
     EXPECT_EQ(l.vkrTempDir(), u"C:\\Temp\\");
     fp.files.setTempFolder(u"D:\\Other\\");
-    EXPECT_EQ(second.vkrTempDir(), u"C:\\Temp\\"); // kept for the whole module
+    lib second(fp.module);
+    EXPECT_EQ(second.vkrTempDir(), u"C:\\Temp\\");
+
+    // The Windows directory is read once per object.
+    EXPECT_EQ(l.vkrSystemDir(), u"C:\\Windows");
+    fp.files.setWindowsFolder(u"C:\\WINNT");
+    EXPECT_EQ(l.vkrSystemDir(), u"C:\\Windows");
+    EXPECT_EQ(second.vkrSystemDir(), u"C:\\WINNT");
 }
 
 TEST_F(FilesOnWindows, FileStreamAndExistence) {

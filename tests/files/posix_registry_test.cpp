@@ -1,10 +1,10 @@
+#include "fake/temp_folder.h"
 #include "files/registry_scripts.h"
 #include "platform/posix/file_registry.h"
 #include "velkor6/lib.h"
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <optional>
 
@@ -42,20 +42,17 @@ private:
 
 TEST(PosixRegistry, ReadsTheScriptsOfItsFolder) {
     namespace fs = std::filesystem;
-    std::string pattern = (fs::temp_directory_path() / "velkor6-registry-XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    const fs::path folder = pattern;
-    const auto write = [&](const char* file, const std::string& bytes) {
-        std::ofstream(folder / file, std::ios::binary) << bytes;
-    };
-    write("10-base.reg", ansiScript());
+    const fake::TempFolder temp;
+    const fs::path& folder = temp.path();
+    temp.write("10-base.reg", ansiScript());
     // Applied after the first: overrides one value and adds a key.
-    write("20-more.REG", utf16Script(u"Windows Registry Editor Version 5.00\r\n\r\n"
-                                     u"[HKEY_CURRENT_USER\\Software\\Velkor Test]\r\n"
-                                     u"\"Text\"=\"second\"\r\n"
-                                     u"[HKEY_CURRENT_USER\\Software\\Velkor Test\\Leaf\\New]\r\n"));
-    write("30-ignored.txt", "REGEDIT4\r\n[HKEY_CURRENT_USER\\Software\\Velkor Test]\r\n"
-                            "\"Number\"=\"1\"\r\n");
+    temp.write("20-more.REG",
+               utf16Script(u"Windows Registry Editor Version 5.00\r\n\r\n"
+                           u"[HKEY_CURRENT_USER\\Software\\Velkor Test]\r\n"
+                           u"\"Text\"=\"second\"\r\n"
+                           u"[HKEY_CURRENT_USER\\Software\\Velkor Test\\Leaf\\New]\r\n"));
+    temp.write("30-ignored.txt", "REGEDIT4\r\n[HKEY_CURRENT_USER\\Software\\Velkor Test]\r\n"
+                                 "\"Number\"=\"1\"\r\n");
 
     std::unique_ptr<Platform> platform;
     {
@@ -74,7 +71,6 @@ TEST(PosixRegistry, ReadsTheScriptsOfItsFolder) {
     EXPECT_EQ(l.regGetLong(hkcu, key, u"Number"), 42);
     EXPECT_EQ(l.regGetLong(hkcu, key, u"Dword"), -1);
     EXPECT_EQ(l.regSubKeyCount(hkcu, std::u16string(key) + u"\\Leaf"), 2);
-    fs::remove_all(folder);
 }
 
 } // namespace

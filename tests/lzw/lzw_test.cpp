@@ -225,5 +225,64 @@ TEST(Lzw, RunawayOutputStopsAtTheLimit) {
     EXPECT_EQ(vbError([&] { inflate(packed, full - 1); }), vberr::outOfStringSpace);
 }
 
+// Feeds `packed` to an Inflater in pieces of the given sizes, in turn; returns the output and the
+// error number (0 for none).
+std::pair<std::string, int> inflateInPieces(std::string_view packed, bool strict,
+                                            const std::vector<std::size_t>& sizes,
+                                            std::size_t window) {
+    std::string out;
+    const int error = vbError([&] {
+        Inflater inflater(
+            strict, [&](std::string_view piece) { out.append(piece); }, maxDecodedSize, window);
+        for (std::size_t at = 0, k = 0; at < packed.size(); ++k) {
+            const std::size_t n = std::min(sizes[k % sizes.size()], packed.size() - at);
+            inflater.write(packed.substr(at, n));
+            at += n;
+        }
+        inflater.finish();
+    });
+    return {error ? std::string() : out, error};
+}
+
+TEST(Lzw, StreamingDecodesLikeTheWholeText) {
+    std::mt19937 rng(65536);
+    std::vector<std::string> streams;
+    for (const std::string& s : sampleInputs())
+        streams.push_back(deflate(s));
+    // Long enough to pass through the output buffer several times.
+    streams.push_back(deflate(randomText(rng, 3 << 20)));
+    streams.push_back(deflate(randomBytes(rng, 1 << 20)));
+    streams.push_back(deflate(randomBytes(rng, 1 << 20, 3)));
+    for (const char* damaged : {"", "\x01", "\x02", "\x03", "plain text", "\x83\x04"})
+        streams.emplace_back(damaged);
+    for (int round = 0; round < 20; ++round) {
+        std::string s = streams[round % 12];
+        s[rng() % s.size()] ^= static_cast<char>(1 << rng() % 8);
+        streams.push_back(s);
+    }
+
+    // Piece sizes in turn, and how much output the decoder holds before it hands it on.
+    struct Feed {
+        std::vector<std::size_t> sizes;
+        std::size_t window;
+    };
+    const std::vector<Feed> feeds{
+        {{1}, 64}, {{9, 4, 100}, 300}, {{65536}, Inflater::defaultWindow}, {{100000, 7}, 1000}};
+    for (const std::string& packed : streams) {
+        for (bool strict : {false, true}) {
+            std::string whole;
+            const int error =
+                vbError([&] { whole = strict ? inflateStrict(packed) : inflate(packed); });
+            for (const auto& [sizes, window] : feeds) {
+                if (sizes[0] == 1 && packed.size() > 50000)
+                    continue;
+                const auto [out, streamError] = inflateInPieces(packed, strict, sizes, window);
+                EXPECT_EQ(streamError, error) << packed.size() << (strict ? " strict" : "");
+                EXPECT_TRUE(out == whole) << packed.size() << (strict ? " strict" : "");
+            }
+        }
+    }
+}
+
 } // namespace
 } // namespace velkor6::lzw

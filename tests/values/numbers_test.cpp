@@ -1,7 +1,5 @@
-#include "values/fixed_clock.h"
 #include "values/numbers.h"
 #include "values/typed_conversion.h"
-#include "velkor6/lib.h"
 #include "velkor6/vb_error.h"
 
 #include <climits>
@@ -145,21 +143,6 @@ TEST(ValuesCompare, ToleranceAndBits) {
     EXPECT_TRUE(hasAllBits(0, 0));
     EXPECT_TRUE(hasAllBits(-1, INT_MIN));
     EXPECT_FALSE(hasAllBits(INT_MAX, INT_MIN));
-}
-
-TEST(ValuesLibMembers, UseTheModuleLocaleAndClock) {
-    lib de(testing::moduleAt(Date{45366.75}, Locale::germanGermany()));
-    EXPECT_DOUBLE_EQ(de.vkrVal(u"EUR 1.234,50"), 1234.5);
-    EXPECT_EQ(de.vkrCVal(7, Variant(u"")), Variant(Date{45366}));
-    EXPECT_EQ(de.vkrCVal(5, Variant(u"2,5")), Variant(2.5));
-    std::int32_t num = 9, den = 9;
-    de.vkrBruchrechnung(0.75f, num, den);
-    EXPECT_EQ(num, 3);
-    EXPECT_EQ(den, 4);
-
-    lib us(testing::moduleAt(Date{45366.75}, Locale::englishUS()));
-    EXPECT_DOUBLE_EQ(us.vkrVal(u"EUR 1.234,50"), 0);
-    EXPECT_DOUBLE_EQ(us.vkrVal(u"1,234.50 $"), 1234.5);
 }
 
 } // namespace

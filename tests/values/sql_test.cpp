@@ -33,6 +33,8 @@ TEST(ValuesSql, DateLiteralsIgnoreTheLocaleSeparators) {
         EXPECT_EQ(server(Variant::null()), u"CONVERT(DATETIME, '', 102)");
         EXPECT_EQ(errorOf([&] { desktop(Variant::null()); }), vberr::invalidUseOfNull);
         EXPECT_EQ(errorOf([&] { desktop(Variant(u"no date")); }), vberr::typeMismatch);
+        EXPECT_EQ(desktop(Variant(u"2024-03-15 12:00")), u"#2024/03/15 12:00:00#");
+        EXPECT_EQ(desktop(Variant(u"2024-03-15")), u"#2024/03/15#");
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include "com/class_ids.h"
 #include "core/text.h"
+#include "lib/applib_members.h"
 #include "lib/lib_members.h"
 #include "lib/member_ids.h"
 #include "velkor6/enums.h"
@@ -174,6 +175,7 @@ void writeIdl(std::ostream& out) {
     for (const PublicEnum& e : enums)
         writeEnum(out, e);
     writeInterface(out, com::libIds, dispatch::libMembers());
+    writeInterface(out, com::applibIds, dispatch::applibMembers());
     out << "};\n";
 }
 

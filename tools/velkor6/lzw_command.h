@@ -8,8 +8,8 @@
 namespace velkor6::cli {
 
 int runDeflate(std::istream& in, std::ostream& out);
-// Decodes like "Inflate", or like "InflateStrict" when `strict`. Errors go to `err`; nothing is
-// written to `out` then.
+// Decodes like "Inflate", or like "InflateStrict" when `strict`, writing the output as it comes.
+// A damaged stream ends with an error message on `err` after the output decoded before it.
 int runInflate(std::istream& in, std::ostream& out, bool strict, std::ostream& err = std::cerr);
 
 } // namespace velkor6::cli

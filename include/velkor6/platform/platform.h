@@ -3,15 +3,19 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "velkor6/locale.h"
 #include "velkor6/platform/clock.h"
 #include "velkor6/platform/environment.h"
+#include "velkor6/platform/file_store.h"
 #include "velkor6/platform/file_system.h"
 #include "velkor6/platform/input_state.h"
 #include "velkor6/platform/registry.h"
 #include "velkor6/platform/shell.h"
 #include "velkor6/platform/ui.h"
+#include "velkor6/platform/window_manager.h"
+#include "velkor6/platform/xml.h"
 
 namespace velkor6 {
 
@@ -23,6 +27,12 @@ struct Platform {
     std::unique_ptr<UserInterface> ui;
     std::unique_ptr<Shell> shell;
     std::unique_ptr<Registry> registry;
+    std::unique_ptr<FileStore> fileStore;
+    std::unique_ptr<WindowManager> windowManager;
+    std::unique_ptr<XmlService> xml;
+    // The folder of the binary that holds the library (the library's own settings file sits
+    // there), without a trailing separator.
+    std::u16string libraryFolder;
 
     // The services of the operating system this library was built for.
     static std::unique_ptr<Platform> createNative();

@@ -1,5 +1,9 @@
 #include "platform/posix/file_registry.h"
+#include "platform/posix/file_store.h"
+#include "platform/posix/library_folder.h"
 #include "platform/posix/services.h"
+#include "platform/posix/window_manager.h"
+#include "platform/posix/xml_service.h"
 
 namespace velkor6 {
 
@@ -12,6 +16,10 @@ std::unique_ptr<Platform> Platform::createNative() {
     p->ui = posix::createUserInterface();
     p->shell = posix::createShell();
     p->registry = posix::createRegistry();
+    p->fileStore = posix::createFileStore();
+    p->windowManager = posix::createWindowManager();
+    p->xml = posix::createXmlService();
+    p->libraryFolder = posix::libraryFolder();
     return p;
 }
 

@@ -37,9 +37,10 @@ int runDetached(const std::string& script, const std::vector<std::string>& args)
 
 class PosixShell final : public Shell {
 public:
-    // Documents open with the desktop's opener (xdg-open), which knows no separate edit verb;
-    // an executable file is started with the parameters.
-    std::int32_t execute(std::u16string_view, std::u16string_view file,
+    // Documents open with the desktop's opener (xdg-open); the "edit" verb takes the user's
+    // editor ($VISUAL, then $EDITOR) where one is set. An executable file is started with the
+    // parameters.
+    std::int32_t execute(std::u16string_view verb, std::u16string_view file,
                          std::u16string_view parameters, std::u16string_view directory,
                          std::int32_t) override {
         if (file.empty())
@@ -47,12 +48,17 @@ public:
         const std::string path = nativePath(file);
         const std::string dir = directory.empty() ? std::string(".") : nativePath(directory);
         const bool executable = ::access(path.c_str(), X_OK) == 0;
-        const std::string script = executable
-                                       ? "cd \"$1\" 2>/dev/null; [ -e \"$2\" ] || exit 2; "
-                                         "eval \"\\\"\\$2\\\" $3\" </dev/null >/dev/null 2>&1 &"
-                                       : "cd \"$1\" 2>/dev/null; [ -e \"$2\" ] || exit 2; "
-                                         "command -v xdg-open >/dev/null 2>&1 || exit 31; "
-                                         "xdg-open \"$2\" </dev/null >/dev/null 2>&1 &";
+        const bool edit = textEqual(verb, u"edit", Compare::Text);
+        const std::string opener = "command -v xdg-open >/dev/null 2>&1 || exit 31; "
+                                   "xdg-open \"$2\" </dev/null >/dev/null 2>&1 &";
+        const std::string editor =
+            "e=\"${VISUAL:-$EDITOR}\"; [ -n \"$e\" ] || { " + opener +
+            " exit 0; }; eval \"$e \\\"\\$2\\\"\" </dev/null >/dev/null 2>&1 &";
+        const std::string script =
+            "cd \"$1\" 2>/dev/null; [ -e \"$2\" ] || exit 2; " +
+            (executable ? std::string("eval \"\\\"\\$2\\\" $3\" </dev/null >/dev/null 2>&1 &")
+                        : edit ? editor
+                               : opener);
         const int rc = runDetached(script, {dir, path, nativeText(parameters)});
         return rc == 0 ? 42 : rc > 0 && rc <= 32 ? rc : 31;
     }

@@ -1,10 +1,44 @@
+#include <windows.h>
+
 #include "platform/win32/services.h"
+#include "platform/win32/wide.h"
 
 namespace velkor6 {
+namespace win32 {
+namespace {
+
+void marker() {}
+
+} // namespace
+
+std::u16string libraryFolder() {
+    HMODULE module = nullptr;
+    if (!GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                                GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                            reinterpret_cast<LPCWSTR>(&marker), &module))
+        return {};
+    std::wstring path(32768, L'\0');
+    const DWORD n = GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size()));
+    path.resize(n);
+    const std::size_t slash = path.find_last_of(L"\\/");
+    return slash == std::wstring::npos ? std::u16string() : fromWide(path.substr(0, slash));
+}
+
+} // namespace win32
 
 std::unique_ptr<Platform> Platform::createNative() {
     auto p = std::make_unique<Platform>();
     p->clock = win32::createClock();
+    p->fileSystem = win32::createFileSystem();
+    p->environment = win32::createEnvironment();
+    p->input = win32::createInputState();
+    p->ui = win32::createUserInterface();
+    p->shell = win32::createShell();
+    p->registry = win32::createRegistry();
+    p->fileStore = win32::createFileStore();
+    p->windowManager = win32::createWindowManager();
+    p->xml = win32::createXmlService();
+    p->libraryFolder = win32::libraryFolder();
     return p;
 }
 

@@ -1,0 +1,67 @@
+#include "applib/app_log.h"
+
+#include "applib/error_display.h"
+#include "core/text.h"
+#include "velkor6/applib.h"
+
+namespace velkor6 {
+namespace app {
+namespace {
+
+constexpr std::size_t printZone = 14;
+
+void appendTwoDigits(std::u16string& out, int n) {
+    out += static_cast<char16_t>(u'0' + n / 10 % 10);
+    out += static_cast<char16_t>(u'0' + n % 10);
+}
+
+} // namespace
+
+std::u16string logLine(const DateParts& now, std::u16string_view message) {
+    std::u16string line;
+    appendTwoDigits(line, now.day);
+    line += u'.';
+    appendTwoDigits(line, now.month);
+    line += u'.';
+    appendTwoDigits(line, now.year / 100);
+    appendTwoDigits(line, now.year % 100);
+    line += u' ';
+    appendTwoDigits(line, now.hour);
+    line += u':';
+    appendTwoDigits(line, now.minute);
+    line += u':';
+    appendTwoDigits(line, now.second);
+    line.append(printZone - line.size() % printZone, u' ');
+    line += message;
+    line += u"\r\n";
+    return line;
+}
+
+std::u16string errorText(std::int32_t number, std::u16string_view description,
+                         std::u16string_view source) {
+    return u"ERR=" + fromUtf8(std::to_string(number)) + u" '" + std::u16string(description) +
+           u"' (Source=" + std::u16string(source) + u")";
+}
+
+} // namespace app
+
+void applib::logAction(std::u16string_view sMessage) {
+    // The log must never disturb the application: an entry that cannot be written is lost.
+    try {
+        Platform& p = module_->platform();
+        const std::string bytes = toAnsi(app::logLine(splitDate(p.clock->now()), sMessage));
+        // One append per entry, opened and closed each time: the log is complete on disk after
+        // every call, and entries of two processes never interleave.
+        p.fileSystem->appendFile(logFile(), bytes);
+    } catch (const std::exception&) {
+    }
+}
+
+void applib::logError(std::int32_t lError, std::u16string_view sErrDesc,
+                      std::u16string_view sErrSrc, bool bShowMsgBox) {
+    logAction(app::errorText(lError, sErrDesc, sErrSrc));
+    if (bShowMsgBox)
+        app::showError(*module_, lError, sErrDesc, sErrSrc);
+}
+
+} // namespace velkor6

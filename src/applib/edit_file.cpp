@@ -1,0 +1,62 @@
+#include "applib/edit_file.h"
+
+#include "files/paths.h"
+#include "files/registry.h"
+#include "velkor6/applib.h"
+
+namespace velkor6 {
+namespace app {
+namespace {
+
+// Show commands as the system's shell takes them; the minimised start is what the editors have
+// always been started with.
+constexpr std::int32_t showMinimized = 6;
+constexpr std::int32_t windowMinimizedWithFocus = 2;
+
+std::u16string replaceAll(std::u16string text, std::u16string_view find,
+                          std::u16string_view replacement) {
+    for (std::size_t at = text.find(find); at != std::u16string::npos;
+         at = text.find(find, at + replacement.size()))
+        text.replace(at, find.size(), replacement);
+    return text;
+}
+
+} // namespace
+
+void openForEditing(Platform& platform, std::u16string_view path, const Locale& loc) {
+    try {
+        typFileInfo info;
+        if (path.empty() || !files::separateFile(*platform.fileSystem, path, info))
+            return;
+        Registry* registry = platform.registry.get();
+        const std::u16string fileType =
+            files::regGetString(registry, regroot::classesRoot, u"." + info.lpExt, u"", u"", loc);
+        const std::u16string command = files::regGetString(
+            registry, regroot::classesRoot, fileType + u"\\shell\\edit\\command", u"", u"", loc);
+        const std::u16string file = info.lpFileName + u"." + info.lpExt;
+        Shell& shell = *platform.shell;
+        if (command.empty()) {
+            shell.execute(u"open", file, u"", info.lpPath, showMinimized);
+            return;
+        }
+        if (shell.execute(u"edit", file, u"", info.lpPath, showMinimized) > 32)
+            return;
+        if (command.find(u"%1") != std::u16string::npos)
+            shell.start(replaceAll(command, u"%1", path), windowMinimizedWithFocus);
+        else
+            shell.execute(u"open", file, u"", info.lpPath, showMinimized);
+    } catch (const std::exception&) {
+    }
+}
+
+} // namespace app
+
+void applib::editINIFile() {
+    app::openForEditing(module_->platform(), iniFile(), locale());
+}
+
+void applib::editLOGFile() {
+    app::openForEditing(module_->platform(), logFile(), locale());
+}
+
+} // namespace velkor6

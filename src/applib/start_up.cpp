@@ -1,0 +1,69 @@
+// Creation and initialisation of an application context, and the names of its two files.
+#include "applib/host_app.h"
+#include "applib/profile_file.h"
+#include "files/file_io.h"
+#include "files/paths.h"
+#include "velkor6/applib.h"
+#include "velkor6/enums.h"
+
+namespace velkor6 {
+
+applib::applib(std::shared_ptr<Module> module)
+    : module_(std::move(module)),
+      profile_(std::make_unique<app::ProfileFile>(module_->platform())) {}
+
+applib::~applib() = default;
+
+void applib::init(const HostApp& app, std::u16string_view appName) {
+    appName_ = appName;
+    appPath_ = app.path;
+    exeName_ = app.exeName;
+    version_ = app::versionText(app);
+    dataFolder_ = app.path;
+    iniFile();
+    logFile();
+    language();
+
+    Module& m = *module_;
+    // Only the library's own context decides; the others follow its choice.
+    if (appName_ == u"velkor6")
+        m.setKeepLogFiles(boolValue(u"Application", u"KeepLogFiles", false, false));
+    if (!m.keepLogFiles())
+        m.platform().fileSystem->writeFile(logFile_, {});
+
+    logAction(u"velkor6.applib for application '" + appName_ + u"' initalized (exe=" + exeName_ +
+              u", version=" + version_ + u", inifile=" + iniFile_ + u", logfile=" + logFile_ +
+              u", append=" + (m.keepLogFiles() ? u"yes" : u"no") + u")");
+}
+
+std::u16string applib::iniFile() {
+    if (iniFile_.empty()) {
+        Platform& p = module_->platform();
+        FileSystem& fs = *p.fileSystem;
+        const PathStyle style = fs.pathStyle();
+        const std::u16string name = appName_ + u".ini";
+        const std::u16string candidate = files::getFullPath(dataFolder_, name, style);
+        // Installations that keep their settings in the system folder put them in "ostrak".
+        const std::u16string ostrak = files::getFullPath(
+            p.environment->specialFolder(CSIDL_SYSTEMX86), u"ostrak", style);
+        const std::u16string alternative = files::getFullPath(ostrak, name, style);
+        if (files::fileExists(fs, alternative) && !files::fileExists(fs, candidate)) {
+            dataFolder_ = ostrak;
+            iniFile_ = alternative;
+        } else {
+            iniFile_ = candidate;
+        }
+    }
+    return iniFile_;
+}
+
+std::u16string applib::logFile() {
+    if (logFile_.empty()) {
+        Module& m = *module_;
+        logFile_ = files::tempDir(*m.platform().fileSystem, m.tempFolderCache()) + appName_ +
+                   u".log";
+    }
+    return logFile_;
+}
+
+} // namespace velkor6

@@ -1,0 +1,20 @@
+// The member table of class `applib`, assembled from one part per subsystem.
+#pragma once
+
+#include "lib/dispatch.h"
+#include "velkor6/applib.h"
+
+namespace velkor6::dispatch {
+
+const Table<applib>& applibMembers();
+
+// One function per subsystem adds that subsystem's rows.
+void addAppContextMembers(Table<applib>& table); // settings, window memory, log, paths
+void addLanguageMembers(Table<applib>& table);   // language and resources
+// Resource libraries: getLanguagesList, loadRes.
+void addApplibResourceMembers(Table<applib>& table);
+
+// An applib as a value whose members are called through applibMembers().
+ObjectRef applibObject(std::shared_ptr<applib> context);
+
+} // namespace velkor6::dispatch

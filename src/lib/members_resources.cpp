@@ -1,0 +1,125 @@
+// Rows of the language resources: lookups in the caller's resource documents (lib), the
+// resource libraries of an application (lib and applib).
+#include "lib/applib_members.h"
+#include "lib/dispatch_object.h"
+#include "lib/lib_members.h"
+#include "velkor6/vb_error.h"
+
+namespace velkor6::dispatch {
+namespace {
+
+using T = VarType;
+
+// The context an applib argument refers to.
+applib& contextOf(const Variant& v) {
+    const ObjectRef& object = v.object();
+    if (!object)
+        throw VbError(vberr::objectNotSet);
+    const auto* context = dynamic_cast<const TableObject<applib>*>(object.get());
+    if (context == nullptr)
+        throw VbError(vberr::typeMismatch);
+    return *context->target();
+}
+
+} // namespace
+
+void addResourceMembers(Table<lib>& t) {
+    t.push_back(
+        {u"vkrXMLRes",
+         Kind::Method,
+         {required(u"oDOMDoc", T::Object), required(u"sName", T::String),
+          optional(u"iNumber", T::Integer, std::int16_t{-1})},
+         T::String,
+         [](lib& l, Args& a) -> Variant { return l.vkrXMLRes(a[0].object(), a.str(1), a.i16(2)); },
+         u"The text of the first item named sName in the resource document oDOMDoc.",
+         u"With iNumber (-1, that is 65535, when left out) only items of that number "
+         u"count. The language is not asked: a caller's document holds one. \"\" when "
+         u"no item matches or the document fails."});
+    t.push_back(
+        {u"vkrXMLItemProp",
+         Kind::Method,
+         {required(u"oXMLNode", T::Object), required(u"sProp", T::String)},
+         T::String,
+         [](lib& l, Args& a) -> Variant { return l.vkrXMLItemProp(a[0].object(), a.str(1)); },
+         u"The attribute sProp of an element of a resource document.",
+         u"\"\" when the element has no such attribute."});
+    t.push_back({u"vkrXMLFillList",
+                 Kind::Method,
+                 {required(u"oDOMDoc", T::Object), required(u"oList", T::Object),
+                  required(u"sName", T::String)},
+                 T::Empty,
+                 [](lib& l, Args& a) -> Variant {
+                     l.vkrXMLFillList(a[0].object(), a[1].object(), a.str(2));
+                     return {};
+                 },
+                 u"Fills a list or combo box with the texts of the items named sName.",
+                 u"The list is cleared first (Clear); each item in document order is added "
+                 u"(AddItem) and its number becomes the entry's ItemData (0 when it has none). "
+                 u"An error stops the filling; the entries added so far stay."});
+    t.push_back({u"vkrXMLFillTabStrip",
+                 Kind::Method,
+                 {required(u"oDOMDoc", T::Object), required(u"oTab", T::Object),
+                  required(u"sName", T::String)},
+                 T::Empty,
+                 [](lib& l, Args& a) -> Variant {
+                     l.vkrXMLFillTabStrip(a[0].object(), a[1].object(), a.str(2));
+                     return {};
+                 },
+                 u"Gives a tab strip one tab per item named sName, captioned with its text.",
+                 u"The tabs are cleared first (Tabs.Clear); each item in document order adds a "
+                 u"tab at the end without a key (Tabs.Add). An error stops the filling."});
+    t.push_back({u"vkrXMLFillComboWithResList",
+                 Kind::Method,
+                 {required(u"oDOMDoc", T::Object), required(u"oCombo", T::Object),
+                  required(u"sResID", T::String), optional(u"sInclNoFormat", T::String, u"")},
+                 T::Empty,
+                 [](lib& l, Args& a) -> Variant {
+                     l.vkrXMLFillComboWithResList(a[0].object(), a[1].object(), a.str(2), a.str(3));
+                     return {};
+                 },
+                 u"Fills a combo box with the resource list sResID.",
+                 u"A resource list is the items whose name is sResID, in document order: each "
+                 u"adds its text as an entry with its number as ItemData (0 when it has none). "
+                 u"When sInclNoFormat is not \"\", it comes first as an entry of its own with "
+                 u"ItemData -1, the choice of none of the list. The combo is cleared first; "
+                 u"an error stops the filling."});
+    t.push_back({u"vkrRes",
+                 Kind::Method,
+                 {required(u"oApp", T::Object), required(u"lResID", T::Long)},
+                 T::String,
+                 [](lib& l, Args& a) -> Variant { return l.vkrRes(contextOf(a[0]), a.i32(1)); },
+                 u"The string lResID of the string tables of oApp's resource library.",
+                 u"The library is the setting ResourceDLL of section Application with %L "
+                 u"replaced by oApp's language number (1, 2, ...). Resource libraries made "
+                 u"for Windows are read on every platform. A library that cannot be read is "
+                 u"logged (\"LoadLibrary '...' failed.\") and gives \"\", as does a string "
+                 u"that is not there. At most 32766 characters."});
+}
+
+void addApplibResourceMembers(Table<applib>& t) {
+    t.push_back({u"getLanguagesList",
+                 Kind::Method,
+                 {},
+                 T::String | T::Array,
+                 [](applib& a, Args&) -> Variant { return a.getLanguagesList(); },
+                 u"The languages whose resource library is on disk, as \"langid;name;extension\" "
+                 u"(for example 2;English;EN).",
+                 u"The libraries are the files matching the setting ResourceDLL of section "
+                 u"Application with %L as two characters, the language's extension (DE, EN, "
+                 u"FR, IT, ES, CZ, PL, HP). The languages come in the library's order; an "
+                 u"array without entries when there are none."});
+    t.push_back(
+        {u"loadRes",
+         Kind::Method,
+         {required(u"lResID", T::Long), required(u"sResType", T::String)},
+         T::String,
+         [](applib& a, Args& r) -> Variant { return a.loadRes(r.i32(0), r.str(1)); },
+         u"The resource lResID of type sResType (\"XML\", or \"#23\" for a number) of the "
+         u"application's resource library, as text.",
+         u"The library is the setting ResourceDLL of section Application with %L "
+         u"replaced by the extension of the context's language, else by DE; it is "
+         u"found once and then kept. Without either file the error is logged and shown. "
+         u"Text before the first \"<\" goes (the resources are XML). \"\" on any failure."});
+}
+
+} // namespace velkor6::dispatch

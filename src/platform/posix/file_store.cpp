@@ -1,0 +1,179 @@
+#include "platform/posix/file_store.h"
+
+#include "platform/posix/utf8_path.h"
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <ctime>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace velkor6::posix {
+namespace {
+
+// File systems stamp times from a coarse clock (a few milliseconds, two seconds on FAT), so a
+// change within this span of the last one may leave the time as it was.
+constexpr std::int64_t timeStampGrainNs = 2'000'000'000;
+
+class Fd {
+public:
+    explicit Fd(int fd = -1) : fd_(fd) {}
+    Fd(const Fd&) = delete;
+    Fd& operator=(const Fd&) = delete;
+    ~Fd() {
+        if (fd_ >= 0)
+            ::close(fd_);
+    }
+    int get() const { return fd_; }
+    explicit operator bool() const { return fd_ >= 0; }
+    int release() {
+        const int fd = fd_;
+        fd_ = -1;
+        return fd;
+    }
+    bool close() {
+        const int fd = fd_;
+        fd_ = -1;
+        return ::close(fd) == 0;
+    }
+
+private:
+    int fd_;
+};
+
+bool writeAll(int fd, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t n = ::write(fd, bytes.data(), bytes.size());
+        if (n < 0) {
+            if (errno == EINTR)
+                continue;
+            return false;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(n));
+    }
+    return true;
+}
+
+std::int64_t nanoseconds(const timespec& t) {
+    return static_cast<std::int64_t>(t.tv_sec) * 1'000'000'000 + t.tv_nsec;
+}
+
+// The file a write must replace: a link stands for its target.
+std::string writeTarget(const std::string& path) {
+    struct stat st {};
+    if (::lstat(path.c_str(), &st) != 0 || !S_ISLNK(st.st_mode))
+        return path;
+    char resolved[PATH_MAX];
+    if (::realpath(path.c_str(), resolved) == nullptr)
+        return path;
+    return resolved;
+}
+
+// Writes in place, for a folder where no new file may be created; not safe from crashes, but
+// what the system's profile writer does everywhere.
+bool overwrite(const std::string& path, std::string_view bytes) {
+    Fd fd(::open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC));
+    return fd && writeAll(fd.get(), bytes) && fd.close();
+}
+
+class FlockLock final : public FileStore::Lock {
+public:
+    explicit FlockLock(int fd) : fd_(fd) {}
+
+private:
+    Fd fd_; // closing releases the lock
+};
+
+class PosixFileStore final : public FileStore {
+public:
+    std::optional<FileIdentity> identity(std::u16string_view path) override {
+        if (path.empty())
+            return std::nullopt;
+        struct stat st {};
+        if (::stat(nativePath(path).c_str(), &st) != 0)
+            return std::nullopt;
+        timespec now{};
+        ::clock_gettime(CLOCK_REALTIME, &now);
+        FileIdentity id;
+        id.size = static_cast<std::uint64_t>(st.st_size);
+        id.modifiedNs = nanoseconds(st.st_mtim);
+        id.inode = static_cast<std::uint64_t>(st.st_ino);
+        id.device = static_cast<std::uint64_t>(st.st_dev);
+        id.recent = nanoseconds(now) - id.modifiedNs < timeStampGrainNs;
+        return id;
+    }
+
+    std::unique_ptr<Lock> lock(std::u16string_view path) override {
+        if (path.empty())
+            return nullptr;
+        const std::string p = nativePath(path);
+        // A writer renames a new file over the old one, so the lock may be won on a file that is
+        // no longer the one under the name; then it is taken again on the new file.
+        for (int attempt = 0; attempt < 1000; ++attempt) {
+            int raw = ::open(p.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+            if (raw < 0 && (errno == EACCES || errno == EROFS))
+                raw = ::open(p.c_str(), O_RDONLY | O_CLOEXEC);
+            if (raw < 0)
+                return nullptr;
+            Fd fd(raw);
+            while (::flock(fd.get(), LOCK_EX) != 0) {
+                if (errno != EINTR)
+                    return nullptr;
+            }
+            struct stat held {};
+            struct stat named {};
+            if (::fstat(fd.get(), &held) != 0)
+                return nullptr;
+            if (::stat(p.c_str(), &named) == 0 && named.st_ino == held.st_ino &&
+                named.st_dev == held.st_dev)
+                return std::make_unique<FlockLock>(fd.release());
+        }
+        return nullptr;
+    }
+
+    bool replace(std::u16string_view path, std::string_view bytes) override {
+        return !path.empty() && replaceFile(nativePath(path), bytes);
+    }
+};
+
+} // namespace
+
+bool replaceFile(const std::string& path, std::string_view bytes,
+                 const std::function<void()>& afterWrite) {
+    const std::string target = writeTarget(path);
+    struct stat old {};
+    const bool exists = ::stat(target.c_str(), &old) == 0;
+    if (exists && (S_ISDIR(old.st_mode) || ::access(target.c_str(), W_OK) != 0))
+        return false;
+
+    const std::string temp = target + "." + std::to_string(::getpid()) + ".tmp";
+    int raw = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (raw < 0 && errno == EEXIST) {
+        // Left by a process of the same number that died before its rename.
+        ::unlink(temp.c_str());
+        raw = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    }
+    if (raw < 0)
+        return (errno == EACCES || errno == EROFS) && exists && overwrite(target, bytes);
+    Fd fd(raw);
+    bool ok = writeAll(fd.get(), bytes);
+    if (ok && exists)
+        ::fchmod(fd.get(), old.st_mode & 07777);
+    ok = fd.close() && ok;
+    if (ok && afterWrite)
+        afterWrite();
+    if (!ok || ::rename(temp.c_str(), target.c_str()) != 0) {
+        ::unlink(temp.c_str());
+        return false;
+    }
+    return true;
+}
+
+std::unique_ptr<FileStore> createFileStore() {
+    return std::make_unique<PosixFileStore>();
+}
+
+} // namespace velkor6::posix

@@ -1,0 +1,127 @@
+// Settings files shared by processes, on the real file system.
+#include <gtest/gtest.h>
+
+#include "applib/ini_document.h"
+#include "applib/profile_file.h"
+#include "core/text.h"
+#include "fake/temp_folder.h"
+#include "platform/posix/file_store.h"
+#include "velkor6/module.h"
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace velkor6::app {
+namespace {
+
+std::string contentOf(const std::filesystem::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream s;
+    s << in.rdbuf();
+    return s.str();
+}
+
+// Runs body in a child process and returns its wait status.
+template <class F>
+int inChild(F body) {
+    const pid_t pid = ::fork();
+    if (pid == 0) {
+        const bool ok = body();
+        ::_exit(ok ? 0 : 1);
+    }
+    int status = 0;
+    ::waitpid(pid, &status, 0);
+    return status;
+}
+
+TEST(SharedSettingsFile, TwoProcessesWritingAtOnceKeepAllTheirKeys) {
+    fake::TempFolder folder;
+    const std::u16string path = folder.u16("shared.ini");
+    constexpr int writesEach = 1000;
+
+    pid_t writers[2];
+    for (int w = 0; w < 2; ++w) {
+        writers[w] = ::fork();
+        if (writers[w] == 0) {
+            auto module = Module::createDefault();
+            ProfileFile profile(module->platform());
+            bool ok = true;
+            for (int i = 0; i < writesEach; ++i) {
+                const std::u16string key = fromUtf8("w" + std::to_string(w) + "_" +
+                                                    std::to_string(i));
+                ok = profile.write(path, u"Keys", key, key) && ok;
+            }
+            ::_exit(ok ? 0 : 1);
+        }
+    }
+    for (const pid_t pid : writers) {
+        int status = 0;
+        ::waitpid(pid, &status, 0);
+        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    }
+
+    const IniDocument doc(contentOf(folder.path() / "shared.ini"));
+    int found = 0;
+    for (int w = 0; w < 2; ++w) {
+        for (int i = 0; i < writesEach; ++i) {
+            const std::u16string key = fromUtf8("w" + std::to_string(w) + "_" + std::to_string(i));
+            found += doc.value(u"Keys", key) == key ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(found, 2 * writesEach);
+}
+
+TEST(SharedSettingsFile, ACrashBeforeTheRenameLeavesTheOldFileWhole) {
+    fake::TempFolder folder;
+    const std::string old = "[S]\r\nold=1\r\n";
+    folder.write("app.ini", old);
+    const std::string path = (folder.path() / "app.ini").string();
+
+    const int status = inChild([&] {
+        return posix::replaceFile(path, "[S]\r\nnew=2\r\n", [] { std::raise(SIGKILL); });
+    });
+    ASSERT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(contentOf(path), old);
+
+    // The next writer goes on from the old content.
+    auto module = Module::createDefault();
+    ProfileFile profile(module->platform());
+    EXPECT_TRUE(profile.write(folder.u16("app.ini"), u"S", u"next", std::u16string_view(u"3")));
+    EXPECT_EQ(contentOf(path), "[S]\r\nold=1\r\nnext=3\r\n");
+}
+
+TEST(SharedSettingsFile, ReadsSeeAnEditInPlaceOfTheSameSize) {
+    fake::TempFolder folder;
+    folder.write("app.ini", "[S]\r\nk=one\r\n");
+    const auto file = folder.path() / "app.ini";
+    // Old enough for its parsed content to be kept.
+    std::filesystem::last_write_time(file, std::filesystem::file_time_type::clock::now() -
+                                               std::chrono::hours(1));
+    auto module = Module::createDefault();
+    ProfileFile profile(module->platform());
+    EXPECT_EQ(profile.read(folder.u16("app.ini"), u"S", u"k"), u"one");
+    EXPECT_EQ(profile.read(folder.u16("app.ini"), u"S", u"k"), u"one");
+
+    std::ofstream(file, std::ios::binary | std::ios::in | std::ios::out) << "[S]\r\nk=two\r\n";
+    EXPECT_EQ(profile.read(folder.u16("app.ini"), u"S", u"k"), u"two");
+}
+
+TEST(SharedSettingsFile, AReadOnlyFileIsNotReplaced) {
+    fake::TempFolder folder;
+    folder.write("app.ini", "[S]\r\nk=1\r\n");
+    const auto file = folder.path() / "app.ini";
+    std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+    if (::access(file.c_str(), W_OK) == 0)
+        GTEST_SKIP() << "running with rights that ignore file permissions";
+    auto module = Module::createDefault();
+    ProfileFile profile(module->platform());
+    EXPECT_FALSE(profile.write(folder.u16("app.ini"), u"S", u"k", std::u16string_view(u"2")));
+    EXPECT_EQ(contentOf(file), "[S]\r\nk=1\r\n");
+}
+
+} // namespace
+} // namespace velkor6::app

@@ -1,0 +1,103 @@
+#include "fake/fake_window_manager.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace velkor6::fake {
+namespace {
+
+constexpr std::uint32_t getColumnWidth = 4125;
+constexpr std::uint32_t setColumnWidth = 4126;
+
+// Distance from the point to the rectangle, 0 inside it.
+std::int64_t distance(const WindowRect& r, std::int32_t x, std::int32_t y) {
+    const std::int64_t dx = x < r.left ? r.left - x : x >= r.right ? x - r.right + 1 : 0;
+    const std::int64_t dy = y < r.top ? r.top - y : y >= r.bottom ? y - r.bottom + 1 : 0;
+    return dx * dx + dy * dy;
+}
+
+} // namespace
+
+FakeWindowManager::Window& FakeWindowManager::addWindow(WindowHandle handle, Window window) {
+    return windows_[handle] = std::move(window);
+}
+
+void FakeWindowManager::addMonitor(WindowRect bounds, WindowRect work) {
+    monitors_.push_back({bounds, work});
+}
+
+void FakeWindowManager::setScreen(std::int32_t width, std::int32_t height) {
+    screenWidth_ = width;
+    screenHeight_ = height;
+}
+
+FakeWindowManager::Window* FakeWindowManager::find(WindowHandle handle) {
+    const auto it = windows_.find(handle);
+    return it == windows_.end() ? nullptr : &it->second;
+}
+
+std::uint32_t FakeWindowManager::style(WindowHandle window) {
+    const Window* w = find(window);
+    return w == nullptr ? 0 : w->style;
+}
+
+WindowHandle FakeWindowManager::parent(WindowHandle window) {
+    const Window* w = find(window);
+    return w == nullptr ? 0 : w->parent;
+}
+
+std::optional<WindowRect> FakeWindowManager::windowRect(WindowHandle window) {
+    const Window* w = find(window);
+    if (w == nullptr)
+        return std::nullopt;
+    return w->rect;
+}
+
+bool FakeWindowManager::setPosition(WindowHandle window, WindowHandle, std::int32_t x,
+                                    std::int32_t y, std::int32_t width, std::int32_t height,
+                                    std::uint32_t flags) {
+    Window* w = find(window);
+    if (w == nullptr)
+        return false;
+    placements_.push_back({window, x, y, width, height, flags});
+    if ((flags & swp::noSize) != 0) {
+        width = w->rect.width();
+        height = w->rect.height();
+    }
+    w->rect = {x, y, x + width, y + height};
+    return true;
+}
+
+bool FakeWindowManager::show(WindowHandle window, std::int32_t command) {
+    Window* w = find(window);
+    if (w == nullptr)
+        return false;
+    w->shown = command;
+    return true;
+}
+
+std::int32_t FakeWindowManager::sendMessage(WindowHandle window, std::uint32_t message,
+                                            std::int32_t wParam, std::int32_t lParam) {
+    Window* w = find(window);
+    if (w == nullptr || wParam < 0 || static_cast<std::size_t>(wParam) >= w->columnWidths.size())
+        return 0;
+    if (message == getColumnWidth)
+        return w->columnWidths[static_cast<std::size_t>(wParam)];
+    if (message == setColumnWidth) {
+        w->columnWidths[static_cast<std::size_t>(wParam)] = lParam;
+        return 1;
+    }
+    return 0;
+}
+
+std::optional<WindowRect> FakeWindowManager::workArea(std::int32_t x, std::int32_t y) {
+    if (monitors_.empty())
+        return std::nullopt;
+    const auto nearest = std::min_element(
+        monitors_.begin(), monitors_.end(), [&](const Monitor& a, const Monitor& b) {
+            return distance(a.bounds, x, y) < distance(b.bounds, x, y);
+        });
+    return nearest->work;
+}
+
+} // namespace velkor6::fake

@@ -1,0 +1,154 @@
+' Class applib from a late-bound client: vkrInitApp with the host's application object
+' written as a VBScript class, the settings store, column and window memory, the log, the
+' placeholder paths and the language.
+Option Explicit
+On Error Resume Next
+
+Dim passed, failed
+passed = 0
+failed = 0
+
+' Call as: r = Empty : r = o.Member(...) : Check "what", r, expected
+' An error in the call skips the assignment; Check then reports it.
+Sub Check(what, actual, expected)
+    Dim number, description
+    number = Err.Number
+    description = Err.Description
+    Err.Clear
+    If number <> 0 Then
+        Fail what, "error " & number & " " & description
+    ElseIf IsArray(expected) Or IsArray(actual) Then
+        If Join(actual, "|") = Join(expected, "|") And UBound(actual) = UBound(expected) _
+            And LBound(actual) = LBound(expected) Then
+            passed = passed + 1
+        Else
+            Fail what, "array (" & Join(actual, "|") & ") is not (" & Join(expected, "|") & ")"
+        End If
+    ElseIf TypeName(actual) <> TypeName(expected) Then
+        Fail what, TypeName(actual) & " " & actual & " is not " & TypeName(expected) & " " & expected
+    ElseIf actual <> expected Then
+        Fail what, "got [" & actual & "], expected [" & expected & "]"
+    Else
+        passed = passed + 1
+    End If
+End Sub
+
+' The call before it must have raised this error.
+Sub CheckError(what, number, source, description)
+    Dim n, s, d
+    n = Err.Number
+    s = Err.Source
+    d = Err.Description
+    Err.Clear
+    If n <> number Or s <> source Or (description <> "" And d <> description) Then
+        Fail what, "error " & n & " (" & s & ") " & d & "; expected " & number & " (" & source & ")"
+    Else
+        passed = passed + 1
+    End If
+End Sub
+
+Sub Fail(what, why)
+    failed = failed + 1
+    WScript.Echo "FAIL " & what & ": " & why
+End Sub
+
+
+' The host's application object, written as a VBScript class: what vkrInitApp reads.
+Class HostApp
+    Public Path, EXEName, Major, Minor, Revision
+End Class
+
+' A list view as the column-width members reach it: ColumnHeaders(i).Width.
+Class Column
+    Public Width
+End Class
+Class Columns
+    Private items(2)
+    Private Sub Class_Initialize()
+        Dim i
+        For i = 0 To 2
+            Set items(i) = New Column
+            items(i).Width = 1000 * (i + 1)
+        Next
+    End Sub
+    Public Property Get Count()
+        Count = 3
+    End Property
+    Public Default Property Get Item(index)
+        Set Item = items(index - 1)
+    End Property
+End Class
+Class ListView
+    Public ColumnHeaders
+    Private Sub Class_Initialize()
+        Set ColumnHeaders = New Columns
+    End Sub
+End Class
+
+Dim o, app, host, r, folder, fso
+Set o = CreateObject("velkor6.lib")
+Set fso = CreateObject("Scripting.FileSystemObject")
+folder = o.vkrTempDir() & "velkor6-wine-applib"
+If Not fso.FolderExists(folder) Then fso.CreateFolder folder
+
+Set host = New HostApp
+host.Path = folder
+host.EXEName = "winehost"
+host.Major = 6
+host.Minor = 1
+host.Revision = 23
+
+Set app = Nothing
+Set app = o.vkrInitApp(host, "winehost")
+Check "vkrInitApp returns an applib", TypeName(app), "applib"
+r = Empty : r = app.iniFile : Check "iniFile", LCase(r), LCase(folder & "\winehost.ini")
+r = Empty : r = app.logFile : Check "logFile names the log", LCase(Right(r, 12)), "winehost.log"
+
+app.stringValue("Wine", "Greeting") = "hello" : Check "stringValue let", Err.Number, 0
+r = Empty : r = app.stringValue("Wine", "Greeting") : Check "stringValue get", r, "hello"
+r = Empty : r = app.stringValue("Wine", "Missing", "fallback") : Check "stringValue default", r, "fallback"
+app.longValue("Wine", "Count") = 42 : Check "longValue let", Err.Number, 0
+r = Empty : r = app.longValue("Wine", "Count") : Check "longValue get", r, CLng(42)
+app.boolValue("Wine", "Flag") = True : Check "boolValue let", Err.Number, 0
+r = Empty : r = app.boolValue("Wine", "Flag") : Check "boolValue get", r, True
+r = Empty : r = fso.FileExists(folder & "\winehost.ini") : Check "the settings file exists", r, True
+
+Dim view
+Set view = New ListView
+app.saveColWidths view, "Columns" : Check "saveColWidths", Err.Number, 0
+view.ColumnHeaders(1).Width = 5
+app.loadColWidths view, "Columns" : Check "loadColWidths", view.ColumnHeaders(1).Width, 1000
+app.saveWindowPos 0, "NoForm" : Check "saveWindowPos without a window", Err.Number, 0
+app.loadWindowPos 0, "NoForm" : Check "loadWindowPos without a window", Err.Number, 0
+
+app.logAction "started under Wine" : Check "logAction", Err.Number, 0
+app.logError 5, "Invalid procedure call or argument", "winehost.Main" : Check "logError", Err.Number, 0
+Dim logText
+logText = ""
+logText = fso.OpenTextFile(app.logFile).ReadAll()
+Check "the log holds the action", InStr(logText, "started under Wine") > 0, True
+Check "the log holds the error line", InStr(logText, "ERR=5 'Invalid procedure call or argument' (Source=winehost.Main)") > 0, True
+
+r = Empty : r = app.absolutePath("<AppPath>\data.txt")
+Check "absolutePath", LCase(r), LCase(folder & "\data.txt")
+r = Empty : r = app.relativePath(folder & "\data.txt") : Check "relativePath", InStr(r, "data.txt") > 0, True
+
+r = Empty : r = app.language : Check "language get", TypeName(r), "Integer"
+app.language = 2 : r = Empty : r = app.language : Check "language let", r, CInt(2)
+
+' Both editors are started and left alone; the runner ends them with the prefix.
+app.editINIFile : Check "editINIFile", Err.Number, 0
+app.editLOGFile : Check "editLOGFile", Err.Number, 0
+
+' The class on its own, as CreateObject makes it.
+Dim bare
+Set bare = Nothing
+Set bare = CreateObject("velkor6.applib")
+Check "CreateObject velkor6.applib", TypeName(bare), "applib"
+
+Set app = Nothing
+r = Empty : r = o.vkrInitApp(Nothing, "x")
+CheckError "vkrInitApp without an application object", 91, "velkor6", ""
+
+WScript.Echo passed & " passed, " & failed & " failed"
+WScript.Quit failed

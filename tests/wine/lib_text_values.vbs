@@ -1,0 +1,159 @@
+' Class lib from a late-bound client: the text, number, SQL and call-by-name members, and how
+' calls cross the boundary (omitted optionals, ByRef arguments, errors, arrays, types).
+Option Explicit
+On Error Resume Next
+
+Dim passed, failed
+passed = 0
+failed = 0
+
+' Call as: r = Empty : r = o.Member(...) : Check "what", r, expected
+' An error in the call skips the assignment; Check then reports it.
+Sub Check(what, actual, expected)
+    Dim number, description
+    number = Err.Number
+    description = Err.Description
+    Err.Clear
+    If number <> 0 Then
+        Fail what, "error " & number & " " & description
+    ElseIf IsArray(expected) Or IsArray(actual) Then
+        If Join(actual, "|") = Join(expected, "|") And UBound(actual) = UBound(expected) _
+            And LBound(actual) = LBound(expected) Then
+            passed = passed + 1
+        Else
+            Fail what, "array (" & Join(actual, "|") & ") is not (" & Join(expected, "|") & ")"
+        End If
+    ElseIf TypeName(actual) <> TypeName(expected) Then
+        Fail what, TypeName(actual) & " " & actual & " is not " & TypeName(expected) & " " & expected
+    ElseIf actual <> expected Then
+        Fail what, "got [" & actual & "], expected [" & expected & "]"
+    Else
+        passed = passed + 1
+    End If
+End Sub
+
+' The call before it must have raised this error.
+Sub CheckError(what, number, source, description)
+    Dim n, s, d
+    n = Err.Number
+    s = Err.Source
+    d = Err.Description
+    Err.Clear
+    If n <> number Or s <> source Or (description <> "" And d <> description) Then
+        Fail what, "error " & n & " (" & s & ") " & d & "; expected " & number & " (" & source & ")"
+    Else
+        passed = passed + 1
+    End If
+End Sub
+
+Sub Fail(what, why)
+    failed = failed + 1
+    WScript.Echo "FAIL " & what & ": " & why
+End Sub
+
+'  A collection of the caller's own, as the library reaches it: Count and Remove.
+Class Bag3
+    Private n
+    Private Sub Class_Initialize()
+        n = 3
+    End Sub
+    Public Property Get Count()
+        Count = n
+    End Property
+    Public Sub Remove(index)
+        If index < 1 Or index > n Then Err.Raise 9
+        n = n - 1
+    End Sub
+End Class
+
+Dim o, r, s1, s2, s3, n1, n2, arr
+Set o = CreateObject("velkor6.lib")
+Check "CreateObject velkor6.lib", TypeName(o), "lib"
+Set o = Nothing
+Set o = CreateObject("velkor6.lib.1")
+Check "the versioned ProgID", TypeName(o), "lib"
+
+' --- Substring search, count and replace ---------------------------------------------------
+r = Empty : r = o.vkrFindSubString("Select a, b FROM t", "from|select") : Check "vkrFindSubString first", r, CInt(1)
+s1 = "unchanged"
+r = Empty : r = o.vkrFindSubString("Select a, b FROM t", "from|select", 1, True, False, False, s1)
+Check "vkrFindSubString listed", r, CInt(13)
+Check "vkrFindSubString ByRef sFound", s1, "from"
+' A gap in the arguments leaves that optional at its default.
+r = Empty : r = o.vkrFindSubString("aXa", "x", , False) : Check "vkrFindSubString gap", r, CInt(0)
+r = Empty : r = o.vkrFindSubString("aXa", "x", , True) : Check "vkrFindSubString ignore case", r, CInt(2)
+r = Empty : r = o.vkrFindLastSubString("abcabc", "bc") : Check "vkrFindLastSubString", r, CInt(5)
+r = Empty : r = o.vkrHasSubString("Hello World", "WORLD") : Check "vkrHasSubString", r, CInt(-1)
+r = Empty : r = o.vkrHasSubString("Hello World", "WORLD", 1, False) : Check "vkrHasSubString case", r, CInt(0)
+r = Empty : r = o.vkrCountSubString("a-a-a", "a") : Check "vkrCountSubString", r, CInt(3)
+r = Empty : r = o.vkrCountSubStringExt("x 'x' x", "x", 1, True, "''") : Check "vkrCountSubStringExt", r, CInt(2)
+r = Empty : r = o.vkrGetSubString("key=[value];", "[", "]") : Check "vkrGetSubString", r, "value"
+s1 = "" : s2 = "" : s3 = ""
+o.vkrSeparateString "name = value", "=", s1, s2, s3
+Check "vkrSeparateString", s1 & "|" & s2 & "|" & s3, "name | = | value"
+r = Empty : r = o.vkrReplaceInString("one two one", "one", "1") : Check "vkrReplaceInString", r, "1 two 1"
+r = Empty : r = o.vkrReplaceInStringExt("a1 b2 a1", "a1", "X") : Check "vkrReplaceInStringExt", r, "X b2 X"
+s1 = "a 'b' c" : s2 = "''" : n1 = 4 : n2 = 1
+r = Empty : r = o.vkrIsInSigns(s1, s2, n1, n2) : Check "vkrIsInSigns", r, True
+s1 = "ab 123 cd" : n1 = 4 : n2 = 3
+r = Empty : r = o.vkrIsNumericWord(s1, n1, n2) : Check "vkrIsNumericWord", r, True
+Check "vkrIsNumericWord keeps its ByRef Integer", TypeName(n1), "Integer"
+s1 = "abcdef"
+r = Empty : r = o.vkrMid(s1, 2, 3) : Check "vkrMid get", r, "bcd"
+o.vkrMid(s1, 2, 3) = "XYZ" : Check "vkrMid let writes the ByRef source", s1, "aXYZef"
+
+' --- Number parsing and conversion ---------------------------------------------------------
+r = Empty : r = o.vkrVal("12.5 kg") : Check "vkrVal", r, CDbl(12.5)
+r = Empty : r = o.vkrCVal(3, "42") : Check "vkrCVal Long", r, CLng(42)
+r = Empty : r = o.vkrCVal(8, Null) : Check "vkrCVal Null gives the type's default", r, ""
+r = Empty : r = o.vkrRound(2.345, 2) : Check "vkrRound", r, CDbl(2.35)
+s1 = "FF"
+r = Empty : r = o.vkrHexToDec(s1) : Check "vkrHexToDec", r, CLng(255)
+r = Empty : r = o.vkrHex2Dbl("1000000000") : Check "vkrHex2Dbl", r, CDbl(68719476736)
+r = Empty : r = o.vkrDbl2Hex(4294967296, 12) : Check "vkrDbl2Hex", r, "000100000000"
+r = Empty : r = o.vkrDbl2Hex(1E+20) : CheckError "vkrDbl2Hex overflow", 6, "velkor6", ""
+n1 = 0 : n2 = 0
+o.vkrBruchrechnung 0.75, n1, n2 : Check "vkrBruchrechnung", n1 & "/" & n2, "3/4"
+Check "vkrBruchrechnung ByRef Long", TypeName(n1), "Long"
+r = Empty : r = o.vkrCompare(1.0, 1.05, 0.1) : Check "vkrCompare", r, True
+r = Empty : r = o.vkrAND(6, 4) : Check "vkrAND", r, True
+r = Empty : r = o.vkrAND(6, 1) : Check "vkrAND none", r, False
+
+' --- SQL literals and value helpers ---------------------------------------------------------
+r = Empty : r = o.vkrSQLDate(DateSerial(2024, 3, 15)) : Check "vkrSQLDate", r, "#2024/03/15#"
+r = Empty : r = o.vkrSQLDouble(1234.5) : Check "vkrSQLDouble", r, "1234.5"
+arr = Array("Name", "Smith")
+r = Empty : r = o.vkrSQLFilter(arr) : Check "vkrSQLFilter", Len(r) > 0, True
+r = Empty : r = o.vkrGetNotNullValue(Null) : Check "vkrGetNotNullValue", IsEmpty(r), True
+r = Empty : r = o.vkrIsEmpty("") : Check "vkrIsEmpty", r, True
+arr = Array(1, "two", 3)
+r = Empty : r = o.vkrIsInList("two", arr) : Check "vkrIsInList", r, True
+r = Empty : r = o.vkrArrayHasData(arr) : Check "vkrArrayHasData", r, True
+arr = Array("pear", "apple", "fig")
+o.vkrBubbleSort arr : Check "vkrBubbleSort sorts the caller's array", arr, Array("apple", "fig", "pear")
+Dim bag
+Set bag = New Bag3
+o.vkrClearCollection bag : Check "vkrClearCollection empties the caller's collection", bag.Count, 0
+o.vkrClearCollection bag, True : Check "vkrClearCollection sets it to Nothing", bag Is Nothing, True
+
+' --- Call by name and compression ----------------------------------------------------------
+Dim packed
+packed = Empty : packed = o.vkrGlobalVar("Deflate", "abcabcabcabc")
+r = Empty : r = o.vkrGlobalVar("INFLATE", packed) : Check "vkrGlobalVar Deflate and Inflate", r, "abcabcabcabc"
+
+' --- How calls cross the boundary ------------------------------------------------------------
+r = Empty : r = o.vkrNoSuchMember(1)
+CheckError "an unknown member", 438, "Microsoft VBScript runtime error", ""
+r = Empty : r = o.vkrFindSubString("only one")
+CheckError "a missing argument", 449, "velkor6", "Argument not optional"
+r = Empty : r = o.vkrAND(1, 2, 3)
+CheckError "too many arguments", 450, "velkor6", ""
+r = Empty : r = o.vkrAND("x", 2)
+CheckError "an argument of the wrong type", 13, "velkor6", "Type mismatch"
+r = Empty : r = o.vkrFindSubString("a", "a", 40000)
+CheckError "an Integer argument that overflows", 6, "velkor6", "Overflow"
+r = Empty : r = o.vkrFindSubString("x", "x", "2") : Check "text read as a number", r, CInt(0)
+r = Empty : r = o.VKRFINDSUBSTRING("abc", "C") : Check "names in any letter case", r, CInt(3)
+
+WScript.Echo passed & " passed, " & failed & " failed"
+WScript.Quit failed

@@ -1,0 +1,49 @@
+#!/usr/bin/env bash
+# Registers velkor6.dll per machine in the build's Wine prefix (Wine reads classes only from
+# there), runs each client (a VBScript file with cscript, a program directly) and unregisters
+# the DLL again. A client passes when it exits with 0 and printed its "N passed, M failed"
+# line: Wine's cscript exits with 0 and prints nothing on a syntax error.
+# usage: run_scripts.sh BUILD_DIR DLL CLIENT...
+set -u
+build=$1
+dll=$(readlink -f "$2")
+shift 2
+. "$(dirname "$0")/wine_env.sh" "$build"
+
+dllPath=$(winpath "$dll")
+if ! wine regsvr32 /s /n /i:machine "$dllPath" >/dev/null 2>&1; then
+    echo "regsvr32 /n /i:machine failed for $dllPath"
+    exit 1
+fi
+
+log=$(mktemp)
+# Programs the clients started (an editor, say) end with the prefix's server.
+trap 'wine regsvr32 /s /u /n /i:machine "$dllPath" >/dev/null 2>&1; wineserver -k; rm -f "$log"' EXIT
+
+passed=0
+failed=0
+for script in "$@"; do
+    name=$(basename "$script")
+    case "$script" in
+    *.vbs) wine cscript //nologo "$(winpath "$script")" >"$log" 2>&1 ;;
+    *) wine "$script" >"$log" 2>&1 ;;
+    esac
+    status=$?
+    output=$(tr -d '\r' <"$log")
+    echo "$output" | sed "s/^/$name: /"
+    summary=$(echo "$output" | grep -E '^[0-9]+ passed, [0-9]+ failed$' | tail -1)
+    if [ -z "$summary" ]; then
+        echo "$name: no summary line (a syntax error stops a script silently)"
+        failed=$((failed + 1))
+        continue
+    fi
+    passed=$((passed + ${summary%% *}))
+    scriptFailed=$(echo "$summary" | sed -E 's/.* ([0-9]+) failed$/\1/')
+    failed=$((failed + scriptFailed))
+    if [ "$scriptFailed" -eq 0 ] && [ "$status" -ne 0 ]; then
+        echo "$name: exit status $status"
+        failed=$((failed + 1))
+    fi
+done
+echo "$passed passed, $failed failed"
+[ "$failed" -eq 0 ]
