@@ -2,8 +2,9 @@
 # Throughput of `velkor6 deflate` and `velkor6 inflate --strict` beside `gzip -1` and `gzip -d` on
 # the same data: text and random bytes of 1 MB and 10 MB (MB = 2^20 bytes), made in a temporary
 # folder. Rates are megabytes of uncompressed data per second of CPU time (user + system) of the
-# whole program, the best of RUNS runs (default 5), so that other load on the machine does not
-# count. Builds nothing: give the velkor6 program as the first argument.
+# whole program, averaged over several runs (RUNS for 10 MB, default 5; ten times as many for
+# 1 MB), so that other load on the machine counts little, less what starting an empty program
+# (true) costs the shell. Builds nothing: give the velkor6 program as the first argument.
 #
 #   bench/lzw_vs_gzip.sh [path/to/velkor6]
 set -euo pipefail
@@ -43,21 +44,21 @@ make_text() { # bytes file
     }' >"$2"
 }
 
-# Best CPU seconds of `command < in > out` over the runs.
-cpu_seconds() { # in out command...
-    local in=$1 out=$2 best="" t
-    shift 2
-    for ((r = 0; r < runs; r++)); do
-        t=$({ TIMEFORMAT='%3U %3S'; time "$@" <"$in" >"$out" 2>/dev/null; } 2>&1)
-        best=$(awk -v a="$best" -v t="$t" 'BEGIN { split(t, p, " "); s = p[1] + p[2]
-                                               if (s < 0.001) s = 0.001
-                                               print (a == "" || s < a) ? s : a }')
-    done
-    echo "$best"
+# CPU seconds of one `command < in > out`: the total of `reps` runs in a row, divided by them, so
+# that the shell's millisecond clock does not limit small inputs.
+cpu_seconds() { # reps in out command...
+    local reps=$1 in=$2 out=$3 t
+    shift 3
+    t=$({ TIMEFORMAT='%3U %3S'; time for ((r = 0; r < reps; r++)); do
+        "$@" <"$in" >"$out" 2>/dev/null; done; } 2>&1)
+    awk -v t="$t" -v n="$reps" -v base="${baseline:-0}" \
+        'BEGIN { split(t, p, " "); s = (p[1] + p[2]) / n - base; print s < 0.0001 ? 0.0001 : s }'
 }
 
 rate() { awk -v b="$1" -v s="$2" 'BEGIN { printf "%.0f", b / 1048576 / s }'; }
 ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.2f", a / b }'; }
+
+baseline=$(cpu_seconds 50 /dev/null /dev/null "$(type -P true)")
 
 printf '%-7s %6s  %-8s %10s %12s %9s\n' data size program "pack MB/s" "unpack MB/s" "packed %"
 for kind in text random; do
@@ -70,11 +71,12 @@ for kind in text random; do
             head -c "$bytes" /dev/urandom >"$data"
         fi
 
-        lzw_pack=$(cpu_seconds "$data" "$data.lzw" "$bin" deflate)
-        lzw_unpack=$(cpu_seconds "$data.lzw" "$data.out" "$bin" inflate --strict)
+        reps=$((runs * 10 / mb))
+        lzw_pack=$(cpu_seconds $reps "$data" "$data.lzw" "$bin" deflate)
+        lzw_unpack=$(cpu_seconds $reps "$data.lzw" "$data.out" "$bin" inflate --strict)
         cmp -s "$data" "$data.out" || { echo "velkor6 did not restore $kind $mb MB" >&2; exit 1; }
-        gz_pack=$(cpu_seconds "$data" "$data.gz" gzip -1 -c)
-        gz_unpack=$(cpu_seconds "$data.gz" "$data.out" gzip -d -c)
+        gz_pack=$(cpu_seconds $reps "$data" "$data.gz" gzip -1 -c)
+        gz_unpack=$(cpu_seconds $reps "$data.gz" "$data.out" gzip -d -c)
         cmp -s "$data" "$data.out" || { echo "gzip did not restore $kind $mb MB" >&2; exit 1; }
 
         for prog in velkor6 gzip; do

@@ -3,13 +3,13 @@
 // reachable by name through the applib member table (CLI, COM).
 #pragma once
 
+#include "velkor6/module.h"
+#include "velkor6/variant.h"
+
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
-
-#include "velkor6/module.h"
-#include "velkor6/variant.h"
 
 namespace velkor6 {
 

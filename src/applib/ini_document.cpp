@@ -50,8 +50,10 @@ std::u16string decode(std::string_view bytes, TextEncoding& encoding) {
 
 std::string encode(std::u16string_view text, TextEncoding encoding) {
     switch (encoding) {
-    case TextEncoding::Ansi: return toAnsi(text);
-    case TextEncoding::Utf8: return "\xEF\xBB\xBF" + toUtf8(text);
+    case TextEncoding::Ansi:
+        return toAnsi(text);
+    case TextEncoding::Utf8:
+        return "\xEF\xBB\xBF" + toUtf8(text);
     case TextEncoding::Utf16Le:
     case TextEncoding::Utf16Be: {
         const bool le = encoding == TextEncoding::Utf16Le;
@@ -123,9 +125,9 @@ IniDocument::IniDocument(std::string_view bytes) {
             lines_.emplace_back(text.substr(i), u"");
             break;
         }
-        const std::size_t next = text[end] == u'\r' && end + 1 < text.size() && text[end + 1] == u'\n'
-                                     ? end + 2
-                                     : end + 1;
+        const std::size_t next =
+            text[end] == u'\r' && end + 1 < text.size() && text[end + 1] == u'\n' ? end + 2
+                                                                                  : end + 1;
         lines_.emplace_back(text.substr(i, end - i), text.substr(end, next - end));
         i = next;
     }

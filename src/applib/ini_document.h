@@ -29,8 +29,7 @@ public:
     TextEncoding encoding() const { return encoding_; }
 
     // nullopt when the section or the key is missing (or a name is empty).
-    std::optional<std::u16string> value(std::u16string_view section,
-                                        std::u16string_view key) const;
+    std::optional<std::u16string> value(std::u16string_view section, std::u16string_view key) const;
 
     // Replaces the key's line, or adds "key=value" after the last line of its section, or adds
     // the section at the end of the file. False when the text stays as it was.
@@ -49,7 +48,9 @@ private:
         Kind kind = Kind::Blank;
         std::size_t nameStart = 0, nameLength = 0;   // of a section or key
         std::size_t valueStart = 0, valueLength = 0; // of an entry
-        std::u16string_view name() const { return std::u16string_view(text).substr(nameStart, nameLength); }
+        std::u16string_view name() const {
+            return std::u16string_view(text).substr(nameStart, nameLength);
+        }
         std::u16string_view value() const {
             return std::u16string_view(text).substr(valueStart, valueLength);
         }

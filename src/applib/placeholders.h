@@ -25,8 +25,7 @@ std::vector<Placeholder> placeholderTable(Environment& env, PathStyle style,
 // placeholder.
 std::u16string withPlaceholders(std::u16string_view text, const std::vector<Placeholder>& table);
 // The reverse; stops as soon as no "%" is left. A placeholder without a folder stays.
-std::u16string withoutPlaceholders(std::u16string_view text,
-                                   const std::vector<Placeholder>& table);
+std::u16string withoutPlaceholders(std::u16string_view text, const std::vector<Placeholder>& table);
 
 // Replaces every occurrence of find (letter case ignored) from the left; a replacement is not
 // searched again. An empty find changes nothing.

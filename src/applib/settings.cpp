@@ -54,8 +54,8 @@ void applib::longValueLet(std::u16string_view section, std::u16string_view propn
     stringValueLet(section, propname, fromUtf8(std::to_string(value)));
 }
 
-bool applib::boolValue(std::u16string_view section, std::u16string_view propname,
-                       bool defaultValue, bool bAutoCreate) {
+bool applib::boolValue(std::u16string_view section, std::u16string_view propname, bool defaultValue,
+                       bool bAutoCreate) {
     // The German words too: settings files are edited by hand.
     static constexpr std::array<std::u16string_view, 6> trueWords = {u"yes", u"true", u"1",
                                                                      u"-1",  u"wahr", u"ja"};

@@ -44,8 +44,8 @@ std::u16string applib::iniFile() {
         const std::u16string name = appName_ + u".ini";
         const std::u16string candidate = files::getFullPath(dataFolder_, name, style);
         // Installations that keep their settings in the system folder put them in "ostrak".
-        const std::u16string ostrak = files::getFullPath(
-            p.environment->specialFolder(CSIDL_SYSTEMX86), u"ostrak", style);
+        const std::u16string ostrak =
+            files::getFullPath(p.environment->specialFolder(CSIDL_SYSTEMX86), u"ostrak", style);
         const std::u16string alternative = files::getFullPath(ostrak, name, style);
         if (files::fileExists(fs, alternative) && !files::fileExists(fs, candidate)) {
             dataFolder_ = ostrak;
@@ -60,8 +60,8 @@ std::u16string applib::iniFile() {
 std::u16string applib::logFile() {
     if (logFile_.empty()) {
         Module& m = *module_;
-        logFile_ = files::tempDir(*m.platform().fileSystem, m.tempFolderCache()) + appName_ +
-                   u".log";
+        logFile_ =
+            files::tempDir(*m.platform().fileSystem, m.tempFolderCache()) + appName_ + u".log";
     }
     return logFile_;
 }

@@ -51,8 +51,8 @@ void applib::saveColWidths(const ObjectRef& oListView, std::u16string_view sProp
     stringValueLet(u"ColWidths", sPropName, widths);
 }
 
-void applib::loadColWidths(const ObjectRef& oListView, std::u16string_view sPropName,
-                           std::int32_t, std::u16string_view) {
+void applib::loadColWidths(const ObjectRef& oListView, std::u16string_view sPropName, std::int32_t,
+                           std::u16string_view) {
     const std::u16string stored = stringValue(u"ColWidths", sPropName);
     if (stored.empty())
         return;
@@ -122,8 +122,8 @@ void applib::loadWindowPos(std::int32_t hwnd, std::u16string_view formname, bool
         r.bottom = r.top + toPixels(height, tpp.y);
 
         const auto area = windows->workArea(r.left, r.top + r.height() / 2);
-        r = keptInside(r, area.value_or(WindowRect{0, 0, windows->screenWidth(),
-                                                   windows->screenHeight()}));
+        r = keptInside(
+            r, area.value_or(WindowRect{0, 0, windows->screenWidth(), windows->screenHeight()}));
         // A child's position was saved relative to its parent's outer rectangle, while the
         // window manager places it in the parent's client area, inside a 2-pixel border.
         if ((windows->style(hwnd) & winstyle::child) != 0) {

@@ -2,14 +2,16 @@
 // written back into the caller's VARIANTs afterwards.
 #pragma once
 
+// clang-format off
 #include <windows.h>
 #include <oaidl.h>
-
-#include <span>
-#include <vector>
+// clang-format on
 
 #include "lib/dispatch.h"
 #include "velkor6/variant.h"
+
+#include <span>
+#include <vector>
 
 namespace velkor6::com {
 

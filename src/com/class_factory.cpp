@@ -1,12 +1,12 @@
 #include "com/class_factory.h"
 
-#include <atomic>
-#include <new>
-
 #include "com/com_ptr.h"
 #include "com/error_info.h"
 #include "com/server_classes.h"
 #include "com/server_state.h"
+
+#include <atomic>
+#include <new>
 
 namespace velkor6::com {
 namespace {
@@ -66,6 +66,8 @@ private:
 
 } // namespace
 
-IClassFactory* createClassFactory(const ClassEntry& entry) { return new ClassFactory(entry); }
+IClassFactory* createClassFactory(const ClassEntry& entry) {
+    return new ClassFactory(entry);
+}
 
 } // namespace velkor6::com

@@ -1,8 +1,10 @@
 // The class object DllGetClassObject hands out for each class.
 #pragma once
 
+// clang-format off
 #include <windows.h>
 #include <unknwn.h>
+// clang-format on
 
 namespace velkor6::com {
 

@@ -12,8 +12,8 @@ inline constexpr int libraryMajor = 1;
 inline constexpr int libraryMinor = 0;
 
 struct ClassIds {
-    std::u16string_view name;      // "lib"; the interface is "_" + name
-    std::u16string_view classId;   // CLSID
+    std::u16string_view name;    // "lib"; the interface is "_" + name
+    std::u16string_view classId; // CLSID
     std::u16string_view interfaceId;
 };
 

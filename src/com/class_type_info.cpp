@@ -1,9 +1,9 @@
 #include "com/class_type_info.h"
 
+#include "com/com_ptr.h"
+
 #include <atomic>
 #include <string>
-
-#include "com/com_ptr.h"
 
 namespace velkor6::com {
 namespace {

@@ -1,8 +1,10 @@
 // The type description an object reports through IDispatch::GetTypeInfo.
 #pragma once
 
+// clang-format off
 #include <windows.h>
 #include <oaidl.h>
+// clang-format on
 
 #include <string_view>
 

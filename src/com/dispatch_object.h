@@ -1,11 +1,10 @@
 // IDispatch over a class's member table: one object of a public class as clients see it.
 #pragma once
 
+// clang-format off
 #include <windows.h>
 #include <oaidl.h>
-
-#include <atomic>
-#include <memory>
+// clang-format on
 
 #include "com/call_arguments.h"
 #include "com/class_type_info.h"
@@ -17,6 +16,9 @@
 #include "com/variant_convert.h"
 #include "lib/dispatch_object.h"
 #include "velkor6/module.h"
+
+#include <atomic>
+#include <memory>
 
 namespace velkor6::com {
 
@@ -144,15 +146,15 @@ private:
     ~DispatchObject() = default;
 
     static std::u16string_view name(LPOLESTR s) {
-        return s == nullptr ? std::u16string_view() : std::u16string_view(
-                                                          reinterpret_cast<const char16_t*>(s));
+        return s == nullptr ? std::u16string_view()
+                            : std::u16string_view(reinterpret_cast<const char16_t*>(s));
     }
 
     bool typeInfo() {
         if (!typeInfoLooked_) {
             typeInfoLooked_ = true;
-            typeInfo_ = ComPtr<ITypeInfo>::adopt(
-                classTypeInfo(typeInfoOf(interfaceId_).get(), className_));
+            typeInfo_ =
+                ComPtr<ITypeInfo>::adopt(classTypeInfo(typeInfoOf(interfaceId_).get(), className_));
         }
         return static_cast<bool>(typeInfo_);
     }

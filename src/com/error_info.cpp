@@ -1,8 +1,8 @@
 #include "com/error_info.h"
 
-#include <new>
-
 #include "com/com_ptr.h"
+
+#include <new>
 
 namespace velkor6::com {
 
@@ -61,14 +61,22 @@ VbError errorFromInvoke(HRESULT hr, EXCEPINFO& info) {
     }
     switch (hr) {
     case DISP_E_MEMBERNOTFOUND:
-    case DISP_E_UNKNOWNNAME: return VbError(vberr::noSuchMember);
-    case DISP_E_TYPEMISMATCH: return VbError(vberr::typeMismatch);
-    case DISP_E_BADPARAMCOUNT: return VbError(vberr::wrongArgumentCount);
-    case DISP_E_PARAMNOTOPTIONAL: return VbError(vberr::argumentNotOptional);
-    case DISP_E_PARAMNOTFOUND: return VbError(vberr::namedArgumentNotFound);
-    case DISP_E_OVERFLOW: return VbError(vberr::overflow);
-    case E_OUTOFMEMORY: return VbError(vberr::outOfMemory);
-    default: break;
+    case DISP_E_UNKNOWNNAME:
+        return VbError(vberr::noSuchMember);
+    case DISP_E_TYPEMISMATCH:
+        return VbError(vberr::typeMismatch);
+    case DISP_E_BADPARAMCOUNT:
+        return VbError(vberr::wrongArgumentCount);
+    case DISP_E_PARAMNOTOPTIONAL:
+        return VbError(vberr::argumentNotOptional);
+    case DISP_E_PARAMNOTFOUND:
+        return VbError(vberr::namedArgumentNotFound);
+    case DISP_E_OVERFLOW:
+        return VbError(vberr::overflow);
+    case E_OUTOFMEMORY:
+        return VbError(vberr::outOfMemory);
+    default:
+        break;
     }
     if ((static_cast<std::uint32_t>(hr) & 0xFFFF0000u) == 0x800A0000u)
         return VbError(hr & 0xFFFF);

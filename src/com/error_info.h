@@ -1,12 +1,14 @@
 // Errors raised inside a call, reported to automation clients.
 #pragma once
 
+// clang-format off
 #include <windows.h>
 #include <oaidl.h>
-
-#include <cstdint>
+// clang-format on
 
 #include "velkor6/vb_error.h"
+
+#include <cstdint>
 
 namespace velkor6::com {
 

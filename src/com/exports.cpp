@@ -1,15 +1,17 @@
 // The entry points of velkor6.dll (listed in velkor6.def).
+// clang-format off
 #include <windows.h>
-#include <olectl.h>
 #include <unknwn.h>
-
-#include <cwctype>
-#include <string_view>
+#include <olectl.h>
+// clang-format on
 
 #include "com/class_factory.h"
 #include "com/registration.h"
 #include "com/server_classes.h"
 #include "com/server_state.h"
+
+#include <cwctype>
+#include <string_view>
 
 using namespace velkor6::com;
 
@@ -58,9 +60,13 @@ STDAPI DllCanUnloadNow() {
 }
 
 // Per user: needs no administrator rights, and is what a plain regsvr32 does.
-STDAPI DllRegisterServer() { return registerServer(Scope::User, modulePath(serverModule())); }
+STDAPI DllRegisterServer() {
+    return registerServer(Scope::User, modulePath(serverModule()));
+}
 
-STDAPI DllUnregisterServer() { return unregisterServer(Scope::User); }
+STDAPI DllUnregisterServer() {
+    return unregisterServer(Scope::User);
+}
 
 // regsvr32 /n /i:machine (or /i:user) chooses where explicitly; /u with it unregisters.
 STDAPI DllInstall(BOOL install, LPCWSTR commandLine) {

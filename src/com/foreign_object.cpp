@@ -1,11 +1,11 @@
 #include "com/foreign_object.h"
 
-#include <string>
-#include <vector>
-
 #include "com/error_info.h"
 #include "com/variant_convert.h"
 #include "velkor6/vb_error.h"
+
+#include <string>
+#include <vector>
 
 namespace velkor6::com {
 
@@ -15,7 +15,8 @@ std::u16string ForeignObject::typeName() const {
     if (SUCCEEDED(dispatch_->GetTypeInfoCount(&count)) && count > 0 &&
         SUCCEEDED(dispatch_->GetTypeInfo(0, LOCALE_USER_DEFAULT, info.put())) && info) {
         Bstr name;
-        if (SUCCEEDED(info->GetDocumentation(MEMBERID_NIL, name.put(), nullptr, nullptr, nullptr)) &&
+        if (SUCCEEDED(
+                info->GetDocumentation(MEMBERID_NIL, name.put(), nullptr, nullptr, nullptr)) &&
             name.get() != nullptr) {
             std::u16string text = fromBstr(name.get());
             if (text.size() > 1 && text.front() == u'_')

@@ -2,8 +2,10 @@
 // controls) as velkor6 Objects, so that members call them by name.
 #pragma once
 
+// clang-format off
 #include <windows.h>
 #include <oaidl.h>
+// clang-format on
 
 #include "com/com_ptr.h"
 #include "velkor6/variant.h"

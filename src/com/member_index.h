@@ -1,15 +1,16 @@
 // Names and member numbers of one class's table, for GetIDsOfNames and Invoke.
 #pragma once
 
+#include "com/idl_names.h"
+#include "core/text.h"
+#include "lib/dispatch.h"
+#include "lib/member_ids.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
-
-#include "core/text.h"
-#include "lib/dispatch.h"
-#include "lib/member_ids.h"
 
 namespace velkor6::com {
 
@@ -27,8 +28,8 @@ public:
                 setters_.resize(id, nullptr);
                 byName_.emplace(key(table[i].name), ids[i]);
             }
-            auto& slot = table[i].kind == dispatch::Kind::PropertyLet ? setters_[id - 1]
-                                                                      : getters_[id - 1];
+            auto& slot =
+                table[i].kind == dispatch::Kind::PropertyLet ? setters_[id - 1] : getters_[id - 1];
             if (slot == nullptr)
                 slot = &table[i];
         }
@@ -57,7 +58,9 @@ public:
             if (m == nullptr)
                 continue;
             for (std::size_t p = 0; p < m->params.size(); ++p) {
-                if (dispatch::sameName(m->params[p].name, name))
+                const std::u16string& own = m->params[p].name;
+                if (dispatch::sameName(own, name) ||
+                    (isIdlKeyword(own) && dispatch::sameName(idlParameterName(own), name)))
                     return static_cast<std::int32_t>(p);
             }
         }

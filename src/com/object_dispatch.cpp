@@ -1,15 +1,15 @@
 #include "com/object_dispatch.h"
 
-#include <atomic>
-#include <string>
-#include <vector>
-
 #include "com/call_arguments.h"
 #include "com/error_info.h"
 #include "com/object_wrap.h"
 #include "com/server_state.h"
 #include "com/variant_convert.h"
 #include "lib/dispatch.h"
+
+#include <atomic>
+#include <string>
+#include <vector>
 
 namespace velkor6::com {
 namespace {
@@ -86,10 +86,10 @@ public:
                 FAILED(hr))
                 return hr;
             const std::vector<Variant> before(call.values().begin(), call.values().end());
-            const Object::CallKind kind =
-                assignment ? Object::CallKind::PropertyLet
-                : (flags & DISPATCH_METHOD) != 0 ? Object::CallKind::Method
-                                                   : Object::CallKind::PropertyGet;
+            const Object::CallKind kind = assignment ? Object::CallKind::PropertyLet
+                                          : (flags & DISPATCH_METHOD) != 0
+                                              ? Object::CallKind::Method
+                                              : Object::CallKind::PropertyGet;
             const Variant value = object_->call(name, kind, call.values());
             call.writeBackChanged(before);
             if (result != nullptr)
@@ -123,6 +123,8 @@ private:
 
 } // namespace
 
-IDispatch* createObjectDispatch(ObjectRef object) { return new ObjectDispatch(std::move(object)); }
+IDispatch* createObjectDispatch(ObjectRef object) {
+    return new ObjectDispatch(std::move(object));
+}
 
 } // namespace velkor6::com

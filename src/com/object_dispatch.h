@@ -2,8 +2,10 @@
 // numbers as clients ask for them, and each call goes to Object::call by name.
 #pragma once
 
+// clang-format off
 #include <windows.h>
 #include <oaidl.h>
+// clang-format on
 
 #include "velkor6/variant.h"
 

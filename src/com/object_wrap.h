@@ -2,8 +2,10 @@
 // IDispatch objects come in as velkor6 Objects, and each goes back as what it was.
 #pragma once
 
+// clang-format off
 #include <windows.h>
 #include <oaidl.h>
+// clang-format on
 
 #include "velkor6/variant.h"
 

@@ -1,14 +1,13 @@
 #include "com/registration.h"
 
-#include <olectl.h>
-
-#include <string_view>
-#include <utility>
-#include <vector>
-
 #include "com/class_ids.h"
 #include "com/server_classes.h"
 #include "platform/win32/wide.h"
+
+#include <olectl.h>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace velkor6::com {
 namespace {
@@ -38,9 +37,13 @@ private:
     HKEY key_ = nullptr;
 };
 
-HKEY rootOf(Scope scope) { return scope == Scope::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE; }
+HKEY rootOf(Scope scope) {
+    return scope == Scope::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
+}
 
-std::wstring braced(std::u16string_view guid) { return L"{" + win32::wide(guid) + L"}"; }
+std::wstring braced(std::u16string_view guid) {
+    return L"{" + win32::wide(guid) + L"}";
+}
 
 std::wstring classesPath(std::wstring_view rest) {
     return rest.empty() ? std::wstring(L"Software\\Classes")
@@ -118,24 +121,26 @@ HRESULT registerServer(Scope scope, const std::wstring& serverPath) {
         const std::wstring clsid = braced(c.ids.classId);
         const std::wstring clsidKey = L"CLSID\\" + clsid;
         const std::wstring interfaceKey = L"Interface\\" + braced(c.ids.interfaceId);
-        entries.insert(entries.end(), {
-            {clsidKey, nullptr, progId},
-            {clsidKey + L"\\InprocServer32", nullptr, serverPath},
-            {clsidKey + L"\\InprocServer32", L"ThreadingModel", L"Apartment"},
-            {clsidKey + L"\\ProgID", nullptr, versioned},
-            {clsidKey + L"\\VersionIndependentProgID", nullptr, progId},
-            {clsidKey + L"\\TypeLib", nullptr, libId},
-            {clsidKey + L"\\Version", nullptr, version},
-            {progId, nullptr, progId},
-            {progId + L"\\CLSID", nullptr, clsid},
-            {progId + L"\\CurVer", nullptr, versioned},
-            {versioned, nullptr, progId},
-            {versioned + L"\\CLSID", nullptr, clsid},
-            {interfaceKey, nullptr, L"_" + name},
-            {interfaceKey + L"\\ProxyStubClsid32", nullptr, std::wstring(dispatchProxy)},
-            {interfaceKey + L"\\TypeLib", nullptr, libId},
-            {interfaceKey + L"\\TypeLib", L"Version", version},
-        });
+        entries.insert(
+            entries.end(),
+            {
+                {clsidKey, nullptr, progId},
+                {clsidKey + L"\\InprocServer32", nullptr, serverPath},
+                {clsidKey + L"\\InprocServer32", L"ThreadingModel", L"Apartment"},
+                {clsidKey + L"\\ProgID", nullptr, versioned},
+                {clsidKey + L"\\VersionIndependentProgID", nullptr, progId},
+                {clsidKey + L"\\TypeLib", nullptr, libId},
+                {clsidKey + L"\\Version", nullptr, version},
+                {progId, nullptr, progId},
+                {progId + L"\\CLSID", nullptr, clsid},
+                {progId + L"\\CurVer", nullptr, versioned},
+                {versioned, nullptr, progId},
+                {versioned + L"\\CLSID", nullptr, clsid},
+                {interfaceKey, nullptr, L"_" + name},
+                {interfaceKey + L"\\ProxyStubClsid32", nullptr, std::wstring(dispatchProxy)},
+                {interfaceKey + L"\\TypeLib", nullptr, libId},
+                {interfaceKey + L"\\TypeLib", L"Version", version},
+            });
     }
     for (const Entry& e : entries) {
         if (const LONG rc = setString(scope, e.key, e.name, e.value); rc != ERROR_SUCCESS) {
@@ -161,12 +166,12 @@ HRESULT unregisterServer(Scope scope) {
     }
     for (const ClassEntry& c : serverClasses()) {
         const std::wstring progId = library + L"." + win32::wide(c.ids.name);
-        for (const std::wstring& key :
-             {L"CLSID\\" + braced(c.ids.classId), progId,
-              progId + L"." + std::to_wstring(libraryMajor)})
+        for (const std::wstring& key : {L"CLSID\\" + braced(c.ids.classId), progId,
+                                        progId + L"." + std::to_wstring(libraryMajor)})
             ok = deleteTree(scope, key) == ERROR_SUCCESS && ok;
         if (last)
-            ok = deleteTree(scope, L"Interface\\" + braced(c.ids.interfaceId)) == ERROR_SUCCESS && ok;
+            ok = deleteTree(scope, L"Interface\\" + braced(c.ids.interfaceId)) == ERROR_SUCCESS &&
+                 ok;
     }
     // Parents the registration had to create go too, when nothing else is in them.
     for (const wchar_t* parent : {L"CLSID", L"Interface", L"TypeLib"})

@@ -2,9 +2,8 @@
 // Software\Classes of the current user or of the machine.
 #pragma once
 
-#include <windows.h>
-
 #include <string>
+#include <windows.h>
 
 namespace velkor6::com {
 

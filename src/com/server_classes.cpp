@@ -1,10 +1,10 @@
 #include "com/server_classes.h"
 
-#include <string>
-#include <vector>
-
 #include "lib/applib_members.h"
 #include "lib/lib_members.h"
+
+#include <string>
+#include <vector>
 
 namespace velkor6::com {
 

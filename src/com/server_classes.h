@@ -2,17 +2,19 @@
 // ServerClass line in server_classes.cpp.
 #pragma once
 
+// clang-format off
 #include <windows.h>
 #include <oaidl.h>
-
-#include <memory>
-#include <span>
-#include <string>
+// clang-format on
 
 #include "com/class_ids.h"
 #include "com/dispatch_object.h"
 #include "com/member_index.h"
 #include "com/server_state.h"
+
+#include <memory>
+#include <span>
+#include <string>
 
 namespace velkor6::com {
 
@@ -49,9 +51,7 @@ struct ServerClass {
         return DispatchObject<Target>::create(value->target(), index(), Ids.name, interfaceId(),
                                               serverContext(), object);
     }
-    static ClassEntry entry() {
-        return {Ids, guidOf(Ids.classId), interfaceId(), &create, &wrap};
-    }
+    static ClassEntry entry() { return {Ids, guidOf(Ids.classId), interfaceId(), &create, &wrap}; }
 };
 
 std::span<const ClassEntry> serverClasses();

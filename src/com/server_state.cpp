@@ -25,18 +25,28 @@ ServerState& state() {
 
 } // namespace
 
-void objectCreated() { ++state().objects; }
-void objectDestroyed() { --state().objects; }
+void objectCreated() {
+    ++state().objects;
+}
+void objectDestroyed() {
+    --state().objects;
+}
 void lockServer(bool lock) {
     if (lock)
         ++state().locks;
     else
         --state().locks;
 }
-bool serverIdle() { return state().objects == 0 && state().locks == 0; }
+bool serverIdle() {
+    return state().objects == 0 && state().locks == 0;
+}
 
-void setServerModule(HMODULE module) { state().module = module; }
-HMODULE serverModule() { return state().module; }
+void setServerModule(HMODULE module) {
+    state().module = module;
+}
+HMODULE serverModule() {
+    return state().module;
+}
 
 std::shared_ptr<Module> serverContext() {
     auto& s = state();

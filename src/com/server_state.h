@@ -2,14 +2,16 @@
 // (for DllCanUnloadNow), its module handle, and the module context its objects share.
 #pragma once
 
+// clang-format off
 #include <windows.h>
 #include <oaidl.h>
-
-#include <memory>
-#include <string>
+// clang-format on
 
 #include "com/com_ptr.h"
 #include "velkor6/module.h"
+
+#include <memory>
+#include <string>
 
 namespace velkor6::com {
 

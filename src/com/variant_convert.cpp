@@ -1,12 +1,13 @@
 #include "com/variant_convert.h"
 
-#include <cstring>
-#include <new>
-#include <vector>
-
 #include "com/com_ptr.h"
 #include "com/object_wrap.h"
 #include "velkor6/vb_error.h"
+
+#include <cstdint>
+#include <cstring>
+#include <new>
+#include <vector>
 
 namespace velkor6::com {
 namespace {
@@ -44,9 +45,12 @@ VarType elementTypeOf(VARTYPE vt) {
     case VT_BOOL:
     case VT_VARIANT:
     case VT_DECIMAL:
-    case VT_UI1: return static_cast<VarType>(vt);
-    case VT_UNKNOWN: return VarType::Object;
-    default: return VarType::Variant;
+    case VT_UI1:
+        return static_cast<VarType>(vt);
+    case VT_UNKNOWN:
+        return VarType::Object;
+    default:
+        return VarType::Variant;
     }
 }
 
@@ -86,22 +90,18 @@ Variant fromSafeArray(SAFEARRAY* sa, VARTYPE elementVt) {
     return Variant(std::move(a));
 }
 
-// Integer types the library has no type for: Long when the value fits, Double otherwise.
-Variant fromWideInteger(const VARIANT& v) {
-    // The conversion only reads its source, though it is declared to take it as writable.
-    auto* source = const_cast<VARIANT*>(&v);
-    VARIANT copy;
-    VariantInit(&copy);
-    if (SUCCEEDED(VariantChangeType(&copy, source, 0, VT_I4)))
-        return Variant(static_cast<std::int32_t>(V_I4(&copy)));
-    if (SUCCEEDED(VariantChangeType(&copy, source, 0, VT_R8)))
-        return Variant(V_R8(&copy));
-    throw VbError(vberr::typeMismatch);
-}
-
 template <class T>
 const T& valueAt(const VARIANT& v, const T& direct) {
     return (V_VT(&v) & VT_BYREF) != 0 ? *static_cast<const T*>(V_BYREF(&v)) : direct;
+}
+
+// Integer types the library has no type for: Long when the value fits, Double otherwise.
+template <class T>
+Variant fromWideInteger(T value) {
+    if (value >= static_cast<T>(0) ? static_cast<std::uint64_t>(value) <= 2147483647u
+                                   : static_cast<std::int64_t>(value) >= -2147483648LL)
+        return Variant(static_cast<std::int32_t>(value));
+    return Variant(static_cast<double>(value));
 }
 
 Decimal fromDecimal(const DECIMAL& d) {
@@ -147,39 +147,60 @@ Variant fromVariant(const VARIANT& in) {
         return fromSafeArray(sa, vt & VT_TYPEMASK);
     }
     switch (vt) {
-    case VT_EMPTY: return Variant();
-    case VT_NULL: return Variant::null();
-    case VT_I2: return Variant(static_cast<std::int16_t>(valueAt(*v, V_I2(v))));
-    case VT_I4: return Variant(static_cast<std::int32_t>(valueAt(*v, V_I4(v))));
-    case VT_R4: return Variant(valueAt(*v, V_R4(v)));
-    case VT_R8: return Variant(valueAt(*v, V_R8(v)));
-    case VT_CY: return Variant(Currency{valueAt(*v, V_CY(v)).int64});
-    case VT_DATE: return Variant(Date{valueAt(*v, V_DATE(v))});
-    case VT_BSTR: return Variant(fromBstr(valueAt(*v, V_BSTR(v))));
-    case VT_DISPATCH: return Variant(objectFor(valueAt(*v, V_DISPATCH(v))));
-    case VT_ERROR: return Variant(ErrorCode{static_cast<std::int32_t>(valueAt(*v, V_ERROR(v)))});
-    case VT_BOOL: return Variant(valueAt(*v, V_BOOL(v)) != VARIANT_FALSE);
+    case VT_EMPTY:
+        return Variant();
+    case VT_NULL:
+        return Variant::null();
+    case VT_I2:
+        return Variant(static_cast<std::int16_t>(valueAt(*v, V_I2(v))));
+    case VT_I4:
+        return Variant(static_cast<std::int32_t>(valueAt(*v, V_I4(v))));
+    case VT_R4:
+        return Variant(valueAt(*v, V_R4(v)));
+    case VT_R8:
+        return Variant(valueAt(*v, V_R8(v)));
+    case VT_CY:
+        return Variant(Currency{valueAt(*v, V_CY(v)).int64});
+    case VT_DATE:
+        return Variant(Date{valueAt(*v, V_DATE(v))});
+    case VT_BSTR:
+        return Variant(fromBstr(valueAt(*v, V_BSTR(v))));
+    case VT_DISPATCH:
+        return Variant(objectFor(valueAt(*v, V_DISPATCH(v))));
+    case VT_ERROR:
+        return Variant(ErrorCode{static_cast<std::int32_t>(valueAt(*v, V_ERROR(v)))});
+    case VT_BOOL:
+        return Variant(valueAt(*v, V_BOOL(v)) != VARIANT_FALSE);
     case VT_DECIMAL:
         return Variant(fromDecimal((V_VT(v) & VT_BYREF) != 0 ? *V_DECIMALREF(v) : V_DECIMAL(v)));
-    case VT_UI1: return Variant(static_cast<std::uint8_t>(valueAt(*v, V_UI1(v))));
+    case VT_UI1:
+        return Variant(static_cast<std::uint8_t>(valueAt(*v, V_UI1(v))));
     case VT_UNKNOWN: {
         IUnknown* unknown = valueAt(*v, V_UNKNOWN(v));
         if (unknown == nullptr)
             return Variant::nothing();
         ComPtr<IDispatch> dispatch;
-        if (FAILED(unknown->QueryInterface(IID_IDispatch,
-                                           reinterpret_cast<void**>(dispatch.put()))))
+        if (FAILED(
+                unknown->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(dispatch.put()))))
             throw VbError(vberr::typeMismatch);
         return Variant(objectFor(dispatch.get()));
     }
     case VT_I1:
+        return fromWideInteger(valueAt(*v, V_I1(v)));
     case VT_UI2:
+        return fromWideInteger(valueAt(*v, V_UI2(v)));
     case VT_UI4:
+        return fromWideInteger(valueAt(*v, V_UI4(v)));
     case VT_I8:
+        return fromWideInteger(valueAt(*v, V_I8(v)));
     case VT_UI8:
+        return fromWideInteger(valueAt(*v, V_UI8(v)));
     case VT_INT:
-    case VT_UINT: return fromWideInteger(*v);
-    default: throw VbError(vberr::typeMismatch);
+        return fromWideInteger(valueAt(*v, V_INT(v)));
+    case VT_UINT:
+        return fromWideInteger(valueAt(*v, V_UINT(v)));
+    default:
+        throw VbError(vberr::typeMismatch);
     }
 }
 
@@ -192,8 +213,11 @@ void toVariant(const Variant& value, VARIANT& out) {
         return;
     }
     switch (value.type()) {
-    case VarType::Empty: break;
-    case VarType::Null: V_VT(&out) = VT_NULL; break;
+    case VarType::Empty:
+        break;
+    case VarType::Null:
+        V_VT(&out) = VT_NULL;
+        break;
     case VarType::Integer:
         V_VT(&out) = VT_I2;
         V_I2(&out) = value.integer();
@@ -253,7 +277,8 @@ void toVariant(const Variant& value, VARIANT& out) {
         V_VT(&out) = VT_UI1;
         V_UI1(&out) = value.byte();
         break;
-    default: throw VbError(vberr::typeMismatch);
+    default:
+        throw VbError(vberr::typeMismatch);
     }
 }
 
@@ -329,17 +354,28 @@ HRESULT writeByRef(const Variant& value, const VARIANT& target) {
             old->Release();
         *static_cast<IUnknown**>(slot) = V_UNKNOWN(converted.get());
         break;
-    case VT_DECIMAL: *static_cast<DECIMAL*>(slot) = V_DECIMAL(converted.get()); return S_OK;
+    case VT_DECIMAL:
+        *static_cast<DECIMAL*>(slot) = V_DECIMAL(converted.get());
+        return S_OK;
     case VT_I2:
-    case VT_BOOL: std::memcpy(slot, &V_I2(converted.get()), 2); return S_OK;
+    case VT_BOOL:
+        std::memcpy(slot, &V_I2(converted.get()), 2);
+        return S_OK;
     case VT_I4:
     case VT_R4:
-    case VT_ERROR: std::memcpy(slot, &V_I4(converted.get()), 4); return S_OK;
+    case VT_ERROR:
+        std::memcpy(slot, &V_I4(converted.get()), 4);
+        return S_OK;
     case VT_R8:
     case VT_CY:
-    case VT_DATE: std::memcpy(slot, &V_R8(converted.get()), 8); return S_OK;
-    case VT_UI1: std::memcpy(slot, &V_UI1(converted.get()), 1); return S_OK;
-    default: return DISP_E_TYPEMISMATCH;
+    case VT_DATE:
+        std::memcpy(slot, &V_R8(converted.get()), 8);
+        return S_OK;
+    case VT_UI1:
+        std::memcpy(slot, &V_UI1(converted.get()), 1);
+        return S_OK;
+    default:
+        return DISP_E_TYPEMISMATCH;
     }
     // The referenced slot now owns the BSTR or interface.
     converted.detach();

@@ -1,8 +1,10 @@
 // Automation VARIANTs and the library's Variant.
 #pragma once
 
+// clang-format off
 #include <windows.h>
 #include <oaidl.h>
+// clang-format on
 
 #include "velkor6/variant.h"
 

@@ -3,10 +3,10 @@
 // both number members this way.
 #pragma once
 
+#include "lib/dispatch.h"
+
 #include <cstdint>
 #include <vector>
-
-#include "lib/dispatch.h"
 
 namespace velkor6::dispatch {
 

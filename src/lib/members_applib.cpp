@@ -31,10 +31,7 @@ void addSettingRows(Table<applib>& t) {
                  u"folder.",
                  u"Found once and then kept. When only the \"ostrak\" folder below the 32-bit "
                  u"system folder holds a file of that name, that one is used."});
-    t.push_back({u"stringValue",
-                 Kind::PropertyGet,
-                 settingParams(T::String, u""),
-                 T::String,
+    t.push_back({u"stringValue", Kind::PropertyGet, settingParams(T::String, u""), T::String,
                  [](applib& a, Args& r) -> Variant {
                      return a.stringValue(r.str(0), r.str(1), r.str(2), r.b(3));
                  },
@@ -42,10 +39,7 @@ void addSettingRows(Table<applib>& t) {
                  u"A missing or empty setting gives default; with bAutoCreate the default is "
                  u"then stored. Names of sections and keys ignore letter case. At most 2047 "
                  u"characters are read."});
-    t.push_back({u"stringValue",
-                 Kind::PropertyLet,
-                 settingLetParams(T::String, u""),
-                 T::Empty,
+    t.push_back({u"stringValue", Kind::PropertyLet, settingLetParams(T::String, u""), T::Empty,
                  [](applib& a, Args& r) -> Variant {
                      a.stringValueLet(r.str(0), r.str(1), r.str(4));
                      return {};
@@ -55,63 +49,50 @@ void addSettingRows(Table<applib>& t) {
                  u"default and bAutoCreate are ignored. An unchanged value is not written "
                  u"again. The file is replaced whole under a lock, so that other processes "
                  u"writing the same file keep their settings."});
-    t.push_back({u"longValue",
-                 Kind::PropertyGet,
-                 settingParams(T::Long, std::int32_t{0}),
-                 T::Long,
+    t.push_back({u"longValue", Kind::PropertyGet, settingParams(T::Long, std::int32_t{0}), T::Long,
                  [](applib& a, Args& r) -> Variant {
                      return a.longValue(r.str(0), r.str(1), r.i32(2), r.b(3));
                  },
                  u"A setting as a Long.",
                  u"Text that is no number, or no Long, gives default (stored with "
                  u"bAutoCreate when the setting is missing or empty)."});
-    t.push_back({u"longValue",
-                 Kind::PropertyLet,
-                 settingLetParams(T::Long, std::int32_t{0}),
+    t.push_back({u"longValue", Kind::PropertyLet, settingLetParams(T::Long, std::int32_t{0}),
                  T::Empty,
                  [](applib& a, Args& r) -> Variant {
                      a.longValueLet(r.str(0), r.str(1), r.i32(4));
                      return {};
                  },
-                 u"Stores a Long as its decimal text.",
-                 u""});
-    t.push_back({u"boolValue",
-                 Kind::PropertyGet,
-                 settingParams(T::Boolean, false),
-                 T::Boolean,
+                 u"Stores a Long as its decimal text.", u""});
+    t.push_back({u"boolValue", Kind::PropertyGet, settingParams(T::Boolean, false), T::Boolean,
                  [](applib& a, Args& r) -> Variant {
                      return a.boolValue(r.str(0), r.str(1), r.b(2), r.b(3));
                  },
                  u"A setting as a Boolean.",
                  u"yes, true, 1, -1, wahr and ja (any letter case) are True; a missing or empty "
                  u"setting gives default (stored with bAutoCreate); any other text is False."});
-    t.push_back({u"boolValue",
-                 Kind::PropertyLet,
-                 settingLetParams(T::Boolean, false),
-                 T::Empty,
+    t.push_back({u"boolValue", Kind::PropertyLet, settingLetParams(T::Boolean, false), T::Empty,
                  [](applib& a, Args& r) -> Variant {
                      a.boolValueLet(r.str(0), r.str(1), r.b(4));
                      return {};
                  },
-                 u"Stores \"yes\" or \"no\".",
-                 u""});
+                 u"Stores \"yes\" or \"no\".", u""});
 }
 
 void addWindowRows(Table<applib>& t) {
-    t.push_back({u"loadColWidths",
-                 Kind::Method,
-                 {required(u"oListView", T::Object), required(u"sPropName", T::String),
-                  optional(u"lRegKey", T::Long, currentUserKey),
-                  optional(u"sRegSubKey", T::String, u"")},
-                 T::Empty,
-                 [](applib& a, Args& r) -> Variant {
-                     a.loadColWidths(r[0].object(), r.str(1), r.i32(2), r.str(3));
-                     return {};
-                 },
-                 u"Restores the column widths stored under sPropName in section ColWidths.",
-                 u"The widths are pixels separated by \";\", from the first column on; an entry "
-                 u"that is no number leaves its column alone. lRegKey and sRegSubKey are not "
-                 u"used."});
+    t.push_back(
+        {u"loadColWidths",
+         Kind::Method,
+         {required(u"oListView", T::Object), required(u"sPropName", T::String),
+          optional(u"lRegKey", T::Long, currentUserKey), optional(u"sRegSubKey", T::String, u"")},
+         T::Empty,
+         [](applib& a, Args& r) -> Variant {
+             a.loadColWidths(r[0].object(), r.str(1), r.i32(2), r.str(3));
+             return {};
+         },
+         u"Restores the column widths stored under sPropName in section ColWidths.",
+         u"The widths are pixels separated by \";\", from the first column on; an entry "
+         u"that is no number leaves its column alone. lRegKey and sRegSubKey are not "
+         u"used."});
     t.push_back({u"saveColWidths",
                  Kind::Method,
                  {required(u"oListView", T::Object), required(u"sPropName", T::String),

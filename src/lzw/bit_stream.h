@@ -16,11 +16,7 @@ namespace velkor6::lzw {
 // Writes codes after the leading clear code into a buffer sized for them beforehand.
 class CodeWriter {
 public:
-    explicit CodeWriter(std::size_t maxCodes)
-        : out_((maxCodes * codeBits) / 8 + 8, '\0'),
-          bits_(clearCode >> 8) // bit 8 of the leading clear code opens the stored stream
-          ,
-          pending_(1) {}
+    explicit CodeWriter(std::size_t maxCodes) : out_(maxCodes * codeBits / 8 + 8, '\0') {}
 
     void put(std::uint32_t code) {
         bits_ |= std::uint64_t{code} << pending_;
@@ -55,8 +51,9 @@ private:
 
     std::string out_;
     std::size_t size_ = 0;
-    std::uint64_t bits_;
-    unsigned pending_;
+    // The stored stream starts with the high bit of the leading clear code.
+    std::uint64_t bits_ = clearCode >> 8;
+    unsigned pending_ = 1;
 };
 
 // Reads 9-bit codes from bytes of the full stream (the one that still has its leading zero

@@ -33,9 +33,9 @@ std::u16string applib::loadRes(std::int32_t lResID, std::u16string_view sResType
         if (resourceLibrary_.empty()) {
             const std::u16string setting = stringValue(u"Application", u"ResourceDLL");
             // German is the language every application ships.
-            for (const std::u16string_view language :
+            for (const std::u16string_view code :
                  {std::u16string_view(extension), std::u16string_view(u"DE")}) {
-                const std::u16string name = resources::resourceLibraryName(setting, language);
+                const std::u16string name = resources::resourceLibraryName(setting, code);
                 if (files::fileExists(fs, name)) {
                     resourceLibrary_ = name;
                     break;

@@ -1,11 +1,10 @@
 // An application "Sales" in C:\Apps\Sales, initialised over the fake platform.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include "fake/fake_platform.h"
 #include "velkor6/lib.h"
 
+#include <gtest/gtest.h>
 #include <memory>
 #include <string>
 

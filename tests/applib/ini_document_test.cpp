@@ -1,7 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "applib/ini_document.h"
 
+#include <gtest/gtest.h>
 #include <optional>
 #include <string>
 
@@ -91,8 +90,8 @@ TEST(IniDocument, WritesLikeTheProfileFunctions) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.before);
         IniDocument doc(c.before);
-        const bool changed = c.value ? doc.set(c.section, c.key, *c.value)
-                                     : doc.remove(c.section, c.key);
+        const bool changed =
+            c.value ? doc.set(c.section, c.key, *c.value) : doc.remove(c.section, c.key);
         EXPECT_TRUE(changed);
         EXPECT_EQ(doc.bytes(), c.after);
     }

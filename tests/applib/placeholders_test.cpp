@@ -50,8 +50,8 @@ TEST_F(Placeholders, EditingOpensTheFileWithItsRegisteredEditor) {
     using Exec = fake::FakeShell::Execution;
     const auto same = [](const Exec& e, std::u16string_view verb, std::u16string_view file,
                          std::u16string_view folder) {
-        return e.verb == verb && e.file == file && e.parameters.empty() &&
-               e.directory == folder && e.showCommand == 6;
+        return e.verb == verb && e.file == file && e.parameters.empty() && e.directory == folder &&
+               e.showCommand == 6;
     };
     // No registered type: opened as a document.
     app().editINIFile();

@@ -1,12 +1,11 @@
 // Editing on POSIX: the "edit" verb starts the user's editor.
-#include <gtest/gtest.h>
-
 #include "fake/temp_folder.h"
 #include "velkor6/platform/platform.h"
 
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <gtest/gtest.h>
 #include <optional>
 #include <string>
 #include <thread>

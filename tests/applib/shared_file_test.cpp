@@ -1,6 +1,4 @@
 // Settings files shared by processes, on the real file system.
-#include <gtest/gtest.h>
-
 #include "applib/ini_document.h"
 #include "applib/profile_file.h"
 #include "core/text.h"
@@ -9,8 +7,10 @@
 #include "velkor6/module.h"
 
 #include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -38,8 +38,34 @@ int inChild(F body) {
     return status;
 }
 
+// A temporary folder in memory where there is one: each write waits for the disk, and what is
+// tested here is the locking, not the disk.
+class MemoryFolder {
+public:
+    MemoryFolder() {
+        std::string pattern =
+            std::filesystem::is_directory("/dev/shm")
+                ? "/dev/shm/velkor6-test-XXXXXX"
+                : (std::filesystem::temp_directory_path() / "velkor6-test-XXXXXX").string();
+        if (::mkdtemp(pattern.data()) != nullptr)
+            path_ = pattern;
+    }
+    MemoryFolder(const MemoryFolder&) = delete;
+    MemoryFolder& operator=(const MemoryFolder&) = delete;
+    ~MemoryFolder() {
+        std::error_code ec;
+        std::filesystem::remove_all(path_, ec);
+    }
+    const std::filesystem::path& path() const { return path_; }
+    std::u16string u16(std::string_view name) const { return fromUtf8((path_ / name).string()); }
+
+private:
+    std::filesystem::path path_;
+};
+
 TEST(SharedSettingsFile, TwoProcessesWritingAtOnceKeepAllTheirKeys) {
-    fake::TempFolder folder;
+    MemoryFolder folder;
+    ASSERT_FALSE(folder.path().empty());
     const std::u16string path = folder.u16("shared.ini");
     constexpr int writesEach = 1000;
 
@@ -51,8 +77,8 @@ TEST(SharedSettingsFile, TwoProcessesWritingAtOnceKeepAllTheirKeys) {
             ProfileFile profile(module->platform());
             bool ok = true;
             for (int i = 0; i < writesEach; ++i) {
-                const std::u16string key = fromUtf8("w" + std::to_string(w) + "_" +
-                                                    std::to_string(i));
+                const std::u16string key =
+                    fromUtf8("w" + std::to_string(w) + "_" + std::to_string(i));
                 ok = profile.write(path, u"Keys", key, key) && ok;
             }
             ::_exit(ok ? 0 : 1);
@@ -81,9 +107,8 @@ TEST(SharedSettingsFile, ACrashBeforeTheRenameLeavesTheOldFileWhole) {
     folder.write("app.ini", old);
     const std::string path = (folder.path() / "app.ini").string();
 
-    const int status = inChild([&] {
-        return posix::replaceFile(path, "[S]\r\nnew=2\r\n", [] { std::raise(SIGKILL); });
-    });
+    const int status = inChild(
+        [&] { return posix::replaceFile(path, "[S]\r\nnew=2\r\n", [] { std::raise(SIGKILL); }); });
     ASSERT_TRUE(WIFSIGNALED(status));
     EXPECT_EQ(contentOf(path), old);
 

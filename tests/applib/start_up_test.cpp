@@ -9,9 +9,10 @@ namespace {
 const std::string stamp = "15.03.2024 10:30:00         ";
 
 std::string initLine(std::string_view append) {
-    return stamp + "velkor6.applib for application 'Sales' initalized (exe=Sales, "
-                   "version=6.01.0023, inifile=C:\\Apps\\Sales\\Sales.ini, "
-                   "logfile=C:\\Users\\Test\\AppData\\Local\\Temp\\Sales.log, append=" +
+    return stamp +
+           "velkor6.applib for application 'Sales' initalized (exe=Sales, "
+           "version=6.01.0023, inifile=C:\\Apps\\Sales\\Sales.ini, "
+           "logfile=C:\\Users\\Test\\AppData\\Local\\Temp\\Sales.log, append=" +
            std::string(append) + ")\r\n";
 }
 

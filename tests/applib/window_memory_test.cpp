@@ -45,10 +45,14 @@ TEST_F(WindowMemory, RestoresInsideTheNearestWorkArea) {
         fake::FakeWindowManager::Placement expected;
     };
     const Case cases[] = {
-        {"Left=1500\r\nTop=750\r\nWidth=6000\r\nHeight=4500\r\n", false, {1, 100, 50, 400, 300, 28}},
+        {"Left=1500\r\nTop=750\r\nWidth=6000\r\nHeight=4500\r\n",
+         false,
+         {1, 100, 50, 400, 300, 28}},
         {"Left=1500\r\nTop=750\r\nWidth=6000\r\nHeight=4500\r\n", true, {1, 100, 50, 400, 300, 29}},
         // Saved on a second monitor that is gone: moved into the work area.
-        {"Left=37500\r\nTop=15000\r\nWidth=6000\r\nHeight=4500\r\n", false, {1, 1520, 740, 400, 300, 28}},
+        {"Left=37500\r\nTop=15000\r\nWidth=6000\r\nHeight=4500\r\n",
+         false,
+         {1, 1520, 740, 400, 300, 28}},
         {"Left=-3000\r\nTop=-150\r\nWidth=6000\r\nHeight=4500\r\n", false, {1, 0, 0, 400, 300, 28}},
     };
     for (const auto& c : cases) {

@@ -1,14 +1,16 @@
 // Helpers of the COM tests: building DISPPARAMS the way script clients do.
 #pragma once
 
+// clang-format off
 #include <windows.h>
 #include <oaidl.h>
+// clang-format on
+
+#include "com/com_ptr.h"
 
 #include <string_view>
 #include <utility>
 #include <vector>
-
-#include "com/com_ptr.h"
 
 namespace velkor6::com::test {
 

@@ -1,11 +1,11 @@
-#include <gtest/gtest.h>
-
 #include "com/com_ptr.h"
 #include "com/dispatch_object.h"
 #include "com/object_wrap.h"
 #include "com/server_state.h"
 #include "com_test_support.h"
 #include "velkor6/vb_error.h"
+
+#include <gtest/gtest.h>
 
 namespace velkor6::com {
 namespace {
@@ -24,34 +24,40 @@ const dispatch::Table<Probe>& probeMembers() {
     static const dispatch::Table<Probe> table = [] {
         dispatch::Table<Probe> t;
         // Join(a, Optional sep = "-", Optional ByRef length As Integer) = a & sep & a
-        t.push_back({u"Join",
-                     Kind::Method,
-                     {dispatch::required(u"sLeft", T::String),
-                      dispatch::optional(u"sSep", T::String, u"-"),
-                      dispatch::optionalByRef(u"iLength", T::Integer, std::int16_t{0})},
-                     T::String,
-                     [](Probe&, dispatch::Args& a) -> Variant {
-                         const std::u16string joined = a.str(0) + a.str(1) + a.str(0);
-                         a[2] = static_cast<std::int16_t>(joined.size());
-                         return joined;
-                     }});
+        t.push_back(
+            {u"Join",
+             Kind::Method,
+             {dispatch::required(u"sLeft", T::String), dispatch::optional(u"sSep", T::String, u"-"),
+              dispatch::optionalByRef(u"iLength", T::Integer, std::int16_t{0})},
+             T::String,
+             [](Probe&, dispatch::Args& a) -> Variant {
+                 const std::u16string joined = a.str(0) + a.str(1) + a.str(0);
+                 a[2] = static_cast<std::int16_t>(joined.size());
+                 return joined;
+             },
+             u"",
+             u""});
         t.push_back({u"Text",
                      Kind::PropertyGet,
                      {dispatch::optional(u"lStart", T::Long, std::int32_t{1})},
                      T::String,
                      [](Probe& p, dispatch::Args& a) -> Variant {
                          return p.text.substr(static_cast<std::size_t>(a.i32(0) - 1));
-                     }});
+                     },
+                     u"",
+                     u""});
         t.push_back({u"Text",
                      Kind::PropertyLet,
                      {dispatch::optional(u"lStart", T::Long, std::int32_t{1}),
                       dispatch::required(u"sValue", T::String)},
                      T::Empty,
                      [](Probe& p, dispatch::Args& a) -> Variant {
-                         p.text = p.text.substr(0, static_cast<std::size_t>(a.i32(0) - 1)) +
-                                  a.str(1);
+                         p.text =
+                             p.text.substr(0, static_cast<std::size_t>(a.i32(0) - 1)) + a.str(1);
                          return {};
-                     }});
+                     },
+                     u"",
+                     u""});
         t.push_back({u"Fail",
                      Kind::Method,
                      {dispatch::required(u"lNumber", T::Long)},
@@ -60,19 +66,23 @@ const dispatch::Table<Probe>& probeMembers() {
                          if (a.i32(0) == 0)
                              throw VbError(vberr::library, u"Own failure", u"velkor6.Fail");
                          throw VbError(a.i32(0));
-                     }});
+                     },
+                     u"",
+                     u""});
         t.push_back({u"Echo",
                      Kind::Method,
                      {dispatch::required(u"vValue", T::Variant)},
                      T::Variant,
-                     [](Probe&, dispatch::Args& a) -> Variant { return a[0]; }});
+                     [](Probe&, dispatch::Args& a) -> Variant { return a[0]; },
+                     u"",
+                     u""});
         return t;
     }();
     return table;
 }
 
-const GUID probeInterface = {0x1d5a0c11, 0x2b3e, 0x4c5d, {0x8e, 0x9f, 0x10, 0x21, 0x32, 0x43,
-                                                          0x54, 0x65}};
+const GUID probeInterface = {
+    0x1d5a0c11, 0x2b3e, 0x4c5d, {0x8e, 0x9f, 0x10, 0x21, 0x32, 0x43, 0x54, 0x65}};
 
 class DispatchObjectTest : public ::testing::Test {
 protected:
@@ -86,8 +96,7 @@ protected:
         std::u16string text(name);
         auto* names = reinterpret_cast<LPOLESTR>(text.data());
         DISPID result = 0;
-        EXPECT_EQ(object_->GetIDsOfNames(IID_NULL, &names, 1, 0, &result), S_OK)
-            << toUtf8(name);
+        EXPECT_EQ(object_->GetIDsOfNames(IID_NULL, &names, 1, 0, &result), S_OK) << toUtf8(name);
         return result;
     }
 
@@ -139,7 +148,8 @@ TEST_F(DispatchObjectTest, ArgumentsArePositionalNamedOrOmitted) {
     std::vector<Case> cases;
     cases.push_back({"trailing optionals left out", {bstrArg(u"ab")}, {}, u"ab-ab"});
     cases.push_back({"all positional", {bstrArg(u"ab"), bstrArg(u"+")}, {}, u"ab+ab"});
-    cases.push_back({"a gap marked missing", {bstrArg(u"ab"), missingArg(), i2Arg(0)}, {}, u"ab-ab"});
+    cases.push_back(
+        {"a gap marked missing", {bstrArg(u"ab"), missingArg(), i2Arg(0)}, {}, u"ab-ab"});
     cases.push_back({"named", {bstrArg(u"ab")}, {{1, bstrArg(u"/")}}, u"ab/ab"});
     cases.push_back({"coerced", {i4Arg(7), i2Arg(0)}, {}, u"707"});
     for (Case& c : cases) {
@@ -200,16 +210,22 @@ TEST_F(DispatchObjectTest, ErrorsComeBackAsExceptionsWithNumberSourceAndDescript
         std::u16string description;
     };
     std::vector<Case> cases;
-    cases.push_back({u"Fail", {i4Arg(0)}, static_cast<HRESULT>(0x80040000), u"velkor6.Fail",
-                     u"Own failure"});
-    cases.push_back({u"Fail", {i4Arg(5)}, static_cast<HRESULT>(0x800A0005), u"velkor6",
-                     VbError::describe(5)});
+    cases.push_back(
+        {u"Fail", {i4Arg(0)}, static_cast<HRESULT>(0x80040000), u"velkor6.Fail", u"Own failure"});
+    cases.push_back(
+        {u"Fail", {i4Arg(5)}, static_cast<HRESULT>(0x800A0005), u"velkor6", VbError::describe(5)});
     // Binding errors: a missing argument, too many, one of the wrong type.
-    cases.push_back({u"Join", {}, static_cast<HRESULT>(0x800A01C1), u"velkor6",
-                     VbError::describe(449)});
-    cases.push_back({u"Echo", {i2Arg(1), i2Arg(2)}, static_cast<HRESULT>(0x800A01C2), u"velkor6",
+    cases.push_back(
+        {u"Join", {}, static_cast<HRESULT>(0x800A01C1), u"velkor6", VbError::describe(449)});
+    cases.push_back({u"Echo",
+                     {i2Arg(1), i2Arg(2)},
+                     static_cast<HRESULT>(0x800A01C2),
+                     u"velkor6",
                      VbError::describe(450)});
-    cases.push_back({u"Fail", {bstrArg(u"x")}, static_cast<HRESULT>(0x800A000D), u"velkor6",
+    cases.push_back({u"Fail",
+                     {bstrArg(u"x")},
+                     static_cast<HRESULT>(0x800A000D),
+                     u"velkor6",
                      VbError::describe(13)});
     for (Case& c : cases) {
         Call args(c.args);

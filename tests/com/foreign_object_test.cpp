@@ -1,13 +1,12 @@
-#include <gtest/gtest.h>
-
-#include <atomic>
-#include <string>
-#include <vector>
-
 #include "com/com_ptr.h"
 #include "com/foreign_object.h"
 #include "com/object_wrap.h"
 #include "velkor6/vb_error.h"
+
+#include <atomic>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 namespace velkor6::com {
 namespace {
@@ -74,7 +73,8 @@ public:
             info->bstrSource = SysAllocString(L"Host");
             info->bstrDescription = SysAllocString(L"Subscript out of range");
             return DISP_E_EXCEPTION;
-        default: return DISP_E_MEMBERNOTFOUND;
+        default:
+            return DISP_E_MEMBERNOTFOUND;
         }
     }
 

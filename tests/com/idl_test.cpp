@@ -1,11 +1,10 @@
-#include <gtest/gtest.h>
-
-#include <fstream>
-#include <sstream>
-#include <string>
-
 #include "idl.h"
 #include "lib/member_ids.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <string>
 
 namespace velkor6 {
 namespace {

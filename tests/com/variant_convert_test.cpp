@@ -1,8 +1,8 @@
-#include <gtest/gtest.h>
-
 #include "com/com_ptr.h"
 #include "com/variant_convert.h"
 #include "velkor6/vb_error.h"
+
+#include <gtest/gtest.h>
 
 namespace velkor6::com {
 namespace {
@@ -50,10 +50,8 @@ TEST(VariantConvert, ForeignIntegerTypesBecomeLongOrDouble) {
         Variant expected;
     };
     const Case cases[] = {
-        {VT_I8, 42, Variant(std::int32_t{42})},
-        {VT_I8, 5000000000LL, Variant(5000000000.0)},
-        {VT_UI4, 4000000000LL, Variant(4000000000.0)},
-        {VT_I1, -5, Variant(std::int32_t{-5})},
+        {VT_I8, 42, Variant(std::int32_t{42})},        {VT_I8, 5000000000LL, Variant(5000000000.0)},
+        {VT_UI4, 4000000000LL, Variant(4000000000.0)}, {VT_I1, -5, Variant(std::int32_t{-5})},
         {VT_INT, -7, Variant(std::int32_t{-7})},
     };
     for (const Case& c : cases) {
@@ -62,10 +60,18 @@ TEST(VariantConvert, ForeignIntegerTypesBecomeLongOrDouble) {
         V_VT(&v) = c.vt;
         V_I8(&v) = 0;
         switch (c.vt) {
-        case VT_I8: V_I8(&v) = c.value; break;
-        case VT_UI4: V_UI4(&v) = static_cast<ULONG>(c.value); break;
-        case VT_I1: V_I1(&v) = static_cast<CHAR>(c.value); break;
-        default: V_INT(&v) = static_cast<INT>(c.value); break;
+        case VT_I8:
+            V_I8(&v) = c.value;
+            break;
+        case VT_UI4:
+            V_UI4(&v) = static_cast<ULONG>(c.value);
+            break;
+        case VT_I1:
+            V_I1(&v) = static_cast<CHAR>(c.value);
+            break;
+        default:
+            V_INT(&v) = static_cast<INT>(c.value);
+            break;
         }
         EXPECT_EQ(fromVariant(v), c.expected) << c.vt;
     }

@@ -155,8 +155,9 @@ TEST(PathStyle, RelativePathTo) {
     for (const auto& c : cases) {
         const auto r = relativePathTo(c.from, c.fromFolder, c.to, c.toFolder, c.style);
         ASSERT_EQ(r.has_value(), c.result.has_value()) << toUtf8(c.to);
-        if (r)
+        if (r) {
             EXPECT_EQ(*r, *c.result);
+        }
     }
 }
 

@@ -1,10 +1,10 @@
-#include <gtest/gtest.h>
-
 #include "fake/fake_platform.h"
 #include "lib/applib_members.h"
 #include "lib/lib_members.h"
 #include "velkor6/record_object.h"
 #include "velkor6/vb_error.h"
+
+#include <gtest/gtest.h>
 
 namespace velkor6::dispatch {
 namespace {
@@ -61,17 +61,16 @@ TEST_F(ApplibRows, InitAppReturnsAContextThatAnswersByName) {
               Variant(u"C:\\Apps\\Sales\\x.mdb"));
     std::vector<Variant> typed{u"Db", u"Count", u"12", true};
     EXPECT_EQ(app.call(u"longValue", Object::CallKind::Method, typed), Variant(std::int32_t{12}));
-    EXPECT_EQ(app.call(u"language", Object::CallKind::PropertyGet, {}),
-              Variant(std::int16_t{2}));
+    EXPECT_EQ(app.call(u"language", Object::CallKind::PropertyGet, {}), Variant(std::int16_t{2}));
 }
 
 TEST_F(ApplibRows, InitAppNeedsAnApplicationObject) {
     EXPECT_EQ(errorOf(Variant::nothing()), vberr::objectNotSet);
     EXPECT_EQ(errorOf(Variant(u"C:\\Apps\\Sales")), vberr::typeMismatch);
-    EXPECT_EQ(errorOf(Variant(ObjectRef(std::make_shared<RecordObject>(
-                  u"App", std::vector<RecordObject::Field>{{u"Path", u"C:\\"}},
-                  Locale::englishUS())))),
-              vberr::noSuchMember);
+    EXPECT_EQ(
+        errorOf(Variant(ObjectRef(std::make_shared<RecordObject>(
+            u"App", std::vector<RecordObject::Field>{{u"Path", u"C:\\"}}, Locale::englishUS())))),
+        vberr::noSuchMember);
 }
 
 } // namespace

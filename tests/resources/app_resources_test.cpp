@@ -136,6 +136,8 @@ TEST_F(AppResources, ReadsALibraryTheResourceCompilerMade) {
                                                        std::istreambuf_iterator<char>()));
     EXPECT_TRUE(app->loadRes(1, u"XML").starts_with(u"<?xml version=\"1.0\"?>"));
     app->stringValueLet(u"Application", u"ResourceDLL", u"C:\\App\\ResEN.dll");
+    EXPECT_EQ(l.vkrRes(*app, 1), u"One");
+    EXPECT_EQ(l.vkrRes(*app, 17), u"Seventeen");
     EXPECT_EQ(l.vkrRes(*app, 100), u"Hundert ä");
 #else
     GTEST_SKIP() << "no mingw-w64 resource compiler";

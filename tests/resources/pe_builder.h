@@ -22,7 +22,7 @@ struct Resource {
 
 std::string buildResourceLibrary(const std::vector<Resource>& resources);
 
-// One block of a string table: the strings id & 15 of the ids (id >> 4) << 4 and on.
+// One block of a string table: block n holds the strings 16 * (n - 1) to 16 * n - 1.
 std::string stringBlock(const std::array<std::u16string, 16>& strings);
 
 // The resource of type 6 that holds the string id, with only that string.

@@ -1,9 +1,7 @@
 #include "resources/pe_builder.h"
 #include "resources/pe_image.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 
 namespace velkor6::resources {
 namespace {
@@ -126,25 +124,6 @@ TEST(PeImage, DamagedImagesStayInsideTheirBytes) {
             probe(std::move(damaged));
         }
     }
-}
-
-TEST(PeImage, ReadsALibraryTheResourceCompilerMade) {
-#ifdef VELKOR6_WINDRES_DLL
-    std::ifstream in(VELKOR6_WINDRES_DLL, std::ios::binary);
-    ASSERT_TRUE(in);
-    const auto image = PeImage::read(
-        std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()));
-    ASSERT_TRUE(image);
-    const auto xml = findText(*image, u"XML", u"#1");
-    ASSERT_TRUE(xml);
-    EXPECT_NE(xml->find("<resources>"), std::string::npos);
-    EXPECT_EQ(image->string(1), u"One");
-    EXPECT_EQ(image->string(17), u"Seventeen");
-    EXPECT_EQ(image->string(100), u"Hundert ä");
-    EXPECT_EQ(image->string(2), u"");
-#else
-    GTEST_SKIP() << "no mingw-w64 resource compiler";
-#endif
 }
 
 } // namespace

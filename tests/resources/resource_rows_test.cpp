@@ -44,8 +44,6 @@ TEST_F(ResourceRows, LookupsTakeTheDocumentAndOptionalNumber) {
     auto combo = std::make_shared<fake::FakeListBox>();
     call(u"vkrXMLFillComboWithResList", {doc, ObjectRef(combo), u"x"});
     EXPECT_EQ(combo->entries.size(), 2u);
-    call(u"vkrXMLFillList", {doc, ObjectRef(combo), u"x"});
-    EXPECT_EQ(combo->entries.size(), 2u);
 }
 
 TEST_F(ResourceRows, ResourceLibrariesAreReachedThroughTheContext) {

@@ -71,16 +71,5 @@ TEST_F(ResourceText, KnowsTheExtensionOfEachLanguage) {
     EXPECT_EQ(langs[7].langid, u"8");
 }
 
-TEST_F(ResourceText, AnEmptiedDocumentIsFilledAgain) {
-    Module& m = *p.module;
-    ASSERT_EQ(resText(m, u"yes", 2), u"&Yes");
-    // A caller's text replaces the document only until it is empty again.
-    m.resourceDocument()->loadXml(u"not xml");
-    EXPECT_EQ(resText(m, u"yes", 2), u"&Yes");
-    m.resourceDocument()->loadXml(u"<resources><item langid=\"2\" name=\"yes\" text=\"Y\"/>"
-                                  u"</resources>");
-    EXPECT_EQ(resText(m, u"yes", 2), u"Y");
-}
-
 } // namespace
 } // namespace velkor6::resources

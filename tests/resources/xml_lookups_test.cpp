@@ -95,14 +95,6 @@ TEST_F(XmlLookups, FindsItemsByNameAndNumberInEitherDocument) {
     EXPECT_EQ(xmlRes(nullptr, u"x", -1, loc), u"");
 }
 
-TEST_F(XmlLookups, QuotesTextForOtherDocumentsQueries) {
-    EXPECT_EQ(xpathLiteral(u"plain"), u"\"plain\"");
-    EXPECT_EQ(xpathLiteral(u""), u"\"\"");
-    EXPECT_EQ(xpathLiteral(u"it's"), u"\"it's\"");
-    EXPECT_EQ(xpathLiteral(u"a\"b"), u"'a\"b'");
-    EXPECT_EQ(xpathLiteral(u"\"b'"), u"concat(\"\", '\"', \"b'\")");
-}
-
 TEST_F(XmlLookups, ReadsAttributesOfNodes) {
     for (const ObjectRef& doc : {own, foreign}) {
         const auto items = selectItems(doc, u"x", 0, loc);

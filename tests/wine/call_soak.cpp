@@ -1,8 +1,10 @@
 // A million late-bound calls into velkor6.dll, as a script client makes them: the process's
 // memory and handle count must stay flat. Prints the call rate too.
+// clang-format off
 #include <windows.h>
 #include <oleauto.h>
 #include <psapi.h>
+// clang-format on
 
 #include <chrono>
 #include <cstdio>
@@ -17,8 +19,8 @@ struct Usage {
 Usage usage() {
     PROCESS_MEMORY_COUNTERS_EX counters{};
     counters.cb = sizeof counters;
-    GetProcessMemoryInfo(GetCurrentProcess(),
-                         reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters), sizeof counters);
+    GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),
+                         sizeof counters);
     Usage u;
     u.privateBytes = counters.PrivateUsage;
     GetProcessHandleCount(GetCurrentProcess(), &u.handles);
@@ -126,8 +128,7 @@ int main() {
         const Usage after = usage();
         lib->Release();
 
-        std::printf("%d calls in %.2f s: %.0f calls per second\n", calls, seconds,
-                    calls / seconds);
+        std::printf("%d calls in %.2f s: %.0f calls per second\n", calls, seconds, calls / seconds);
         std::printf("private memory %zu KB before, %zu KB after; handles %lu before, %lu after\n",
                     before.privateBytes / 1024, after.privateBytes / 1024, before.handles,
                     after.handles);

@@ -7,7 +7,7 @@ shift
 missing=0
 covered=0
 # Member declarations in the IDL look like "        short vkrFindSubString(".
-for member in $(grep -oE '^        [A-Za-z_ *]+ ([A-Za-z_][A-Za-z0-9_]*)\($' "$idl" |
+for member in $(grep -oE '^        [^[ ].* ([A-Za-z_][A-Za-z0-9_]*)\($' "$idl" |
                 sed -E 's/.* ([A-Za-z_][A-Za-z0-9_]*)\($/\1/' | sort -u); do
     if grep -qiE "\.$member\b" "$@"; then
         covered=$((covered + 1))

@@ -1,24 +1,27 @@
 #include "idl.h"
 
-#include <cmath>
-#include <cstdio>
-#include <ostream>
-#include <span>
-#include <string>
-
 #include "com/class_ids.h"
+#include "com/idl_names.h"
 #include "core/text.h"
 #include "lib/applib_members.h"
 #include "lib/lib_members.h"
 #include "lib/member_ids.h"
 #include "velkor6/enums.h"
 
+#include <cmath>
+#include <cstdio>
+#include <ostream>
+#include <span>
+#include <string>
+
 namespace velkor6::cli {
 namespace {
 
 using dispatch::Kind;
 
-std::string text(std::u16string_view s) { return toUtf8(s); }
+std::string text(std::u16string_view s) {
+    return toUtf8(s);
+}
 
 // A string literal of the IDL; characters outside ASCII become "?" since the compiler reads
 // the file in no particular code page.
@@ -39,17 +42,28 @@ std::string quoted(std::u16string_view s) {
 
 std::string scalarType(VarType t) {
     switch (t) {
-    case VarType::Integer: return "short";
-    case VarType::Long: return "long";
-    case VarType::Single: return "float";
-    case VarType::Double: return "double";
-    case VarType::Currency: return "CURRENCY";
-    case VarType::Date: return "DATE";
-    case VarType::String: return "BSTR";
-    case VarType::Object: return "IDispatch*";
-    case VarType::Boolean: return "VARIANT_BOOL";
-    case VarType::Byte: return "unsigned char";
-    default: return "VARIANT"; // Variant, and Decimal, which only a Variant can hold
+    case VarType::Integer:
+        return "short";
+    case VarType::Long:
+        return "long";
+    case VarType::Single:
+        return "float";
+    case VarType::Double:
+        return "double";
+    case VarType::Currency:
+        return "CURRENCY";
+    case VarType::Date:
+        return "DATE";
+    case VarType::String:
+        return "BSTR";
+    case VarType::Object:
+        return "IDispatch*";
+    case VarType::Boolean:
+        return "VARIANT_BOOL";
+    case VarType::Byte:
+        return "unsigned char";
+    default:
+        return "VARIANT"; // Variant, and Decimal, which only a Variant can hold
     }
 }
 
@@ -71,14 +85,22 @@ std::string number(double d) {
 // parameter is then merely optional).
 std::string defaultText(const Variant& v) {
     switch (v.type()) {
-    case VarType::Integer: return std::to_string(v.integer());
-    case VarType::Long: return std::to_string(v.longValue());
-    case VarType::Byte: return std::to_string(v.byte());
-    case VarType::Single: return number(v.single());
-    case VarType::Double: return number(v.doubleValue());
-    case VarType::Boolean: return v.boolean() ? "-1" : "0";
-    case VarType::String: return quoted(v.string());
-    default: return "";
+    case VarType::Integer:
+        return std::to_string(v.integer());
+    case VarType::Long:
+        return std::to_string(v.longValue());
+    case VarType::Byte:
+        return std::to_string(v.byte());
+    case VarType::Single:
+        return number(v.single());
+    case VarType::Double:
+        return number(v.doubleValue());
+    case VarType::Boolean:
+        return v.boolean() ? "-1" : "0";
+    case VarType::String:
+        return quoted(v.string());
+    default:
+        return "";
     }
 }
 
@@ -95,7 +117,7 @@ std::string parameter(const dispatch::Param& p) {
     std::string type = typeName(p.type);
     if (p.byRef || array)
         type += "*";
-    return "[" + attributes + "] " + type + " " + text(p.name);
+    return "[" + attributes + "] " + type + " " + text(com::idlParameterName(p.name));
 }
 
 template <class Target>
@@ -159,8 +181,8 @@ void writeIdl(std::ostream& out) {
            "typedef struct tagCY { hyper int64; } CURRENCY;\n"
            "typedef struct tagVARIANT { hyper placeholder[2]; } VARIANT;\n"
            "interface IDispatch;\n\n"
-        << "[\n    uuid(" << text(com::libraryId) << "),\n    version(" << com::libraryMajor
-        << "." << com::libraryMinor << "),\n    helpstring(" << quoted(com::libraryName)
+        << "[\n    uuid(" << text(com::libraryId) << "),\n    version(" << com::libraryMajor << "."
+        << com::libraryMinor << "),\n    helpstring(" << quoted(com::libraryName)
         << ")\n]\nlibrary " << text(com::libraryName) << "\n{\n"
         << "    importlib(\"stdole2.tlb\");\n\n";
     const PublicEnum enums[] = {

@@ -159,7 +159,9 @@ bool replaceFile(const std::string& path, std::string_view bytes,
     if (raw < 0)
         return (errno == EACCES || errno == EROFS) && exists && overwrite(target, bytes);
     Fd fd(raw);
-    bool ok = writeAll(fd.get(), bytes);
+    // On disk before the rename: after a power failure the name holds the old or the new content,
+    // never an empty file.
+    bool ok = writeAll(fd.get(), bytes) && ::fdatasync(fd.get()) == 0;
     if (ok && exists)
         ::fchmod(fd.get(), old.st_mode & 07777);
     ok = fd.close() && ok;

@@ -54,11 +54,11 @@ public:
         const std::string editor =
             "e=\"${VISUAL:-$EDITOR}\"; [ -n \"$e\" ] || { " + opener +
             " exit 0; }; eval \"$e \\\"\\$2\\\"\" </dev/null >/dev/null 2>&1 &";
-        const std::string script =
-            "cd \"$1\" 2>/dev/null; [ -e \"$2\" ] || exit 2; " +
-            (executable ? std::string("eval \"\\\"\\$2\\\" $3\" </dev/null >/dev/null 2>&1 &")
-                        : edit ? editor
-                               : opener);
+        std::string script = "cd \"$1\" 2>/dev/null; [ -e \"$2\" ] || exit 2; ";
+        if (executable)
+            script += "eval \"\\\"\\$2\\\" $3\" </dev/null >/dev/null 2>&1 &";
+        else
+            script += edit ? editor : opener;
         const int rc = runDetached(script, {dir, path, nativeText(parameters)});
         return rc == 0 ? 42 : rc > 0 && rc <= 32 ? rc : 31;
     }

@@ -18,9 +18,7 @@ public:
     std::int32_t sendMessage(WindowHandle, std::uint32_t, std::int32_t, std::int32_t) override {
         return 0;
     }
-    std::optional<WindowRect> workArea(std::int32_t, std::int32_t) override {
-        return std::nullopt;
-    }
+    std::optional<WindowRect> workArea(std::int32_t, std::int32_t) override { return std::nullopt; }
     std::int32_t screenWidth() override { return 0; }
     std::int32_t screenHeight() override { return 0; }
     TwipsPerPixel twipsPerPixel() override { return {}; }

@@ -1,6 +1,6 @@
-#include <windows.h>
-
 #include "platform/win32/services.h"
+
+#include <windows.h>
 
 namespace velkor6::win32 {
 namespace {
@@ -34,6 +34,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<Clock> createClock() { return std::make_unique<Win32Clock>(); }
+std::unique_ptr<Clock> createClock() {
+    return std::make_unique<Win32Clock>();
+}
 
 } // namespace velkor6::win32

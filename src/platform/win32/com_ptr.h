@@ -1,8 +1,10 @@
 // Owners of COM references, BSTRs and VARIANTs, so that no path leaks one.
 #pragma once
 
+// clang-format off
 #include <windows.h>
 #include <oleauto.h>
+// clang-format on
 
 #include <string>
 #include <string_view>

@@ -1,7 +1,9 @@
 // Special folders from the shell, the administrator test through the service-control manager,
 // and the process environment.
+// clang-format off
 #include <windows.h>
 #include <shlobj.h>
+// clang-format on
 
 #include "platform/win32/services.h"
 #include "platform/win32/wide.h"
@@ -67,7 +69,11 @@ public:
 
 } // namespace
 
-std::unique_ptr<Environment> createEnvironment() { return std::make_unique<Win32Environment>(); }
-std::unique_ptr<InputState> createInputState() { return std::make_unique<Win32InputState>(); }
+std::unique_ptr<Environment> createEnvironment() {
+    return std::make_unique<Win32Environment>();
+}
+std::unique_ptr<InputState> createInputState() {
+    return std::make_unique<Win32InputState>();
+}
 
 } // namespace velkor6::win32

@@ -1,12 +1,11 @@
 // Settings files shared between processes: byte-range locks and replacement by rename.
-#include <windows.h>
-
-#include <string>
-
 #include "platform/win32/file_time.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/services.h"
 #include "platform/win32/wide.h"
+
+#include <string>
+#include <windows.h>
 
 namespace velkor6::win32 {
 namespace {
@@ -134,6 +133,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<FileStore> createFileStore() { return std::make_unique<Win32FileStore>(); }
+std::unique_ptr<FileStore> createFileStore() {
+    return std::make_unique<Win32FileStore>();
+}
 
 } // namespace velkor6::win32

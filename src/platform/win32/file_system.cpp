@@ -1,13 +1,12 @@
 // The file system through the wide-character Win32 functions.
-#include <windows.h>
-
-#include <string>
-#include <vector>
-
 #include "platform/win32/file_time.h"
 #include "platform/win32/handle.h"
 #include "platform/win32/services.h"
 #include "platform/win32/wide.h"
+
+#include <string>
+#include <vector>
+#include <windows.h>
 
 namespace velkor6::win32 {
 namespace {
@@ -32,7 +31,8 @@ std::wstring filled(Fill fill) {
 }
 
 std::wstring fullPathOf(const std::wstring& path) {
-    return filled([&](wchar_t* b, DWORD n) { return GetFullPathNameW(path.c_str(), n, b, nullptr); });
+    return filled(
+        [&](wchar_t* b, DWORD n) { return GetFullPathNameW(path.c_str(), n, b, nullptr); });
 }
 
 bool isRoot(const std::wstring& path) {
@@ -66,8 +66,7 @@ public:
 
     std::optional<FileStatus> status(std::u16string_view path) override {
         WIN32_FILE_ATTRIBUTE_DATA data{};
-        if (path.empty() ||
-            !GetFileAttributesExW(wide(path).c_str(), GetFileExInfoStandard, &data))
+        if (path.empty() || !GetFileAttributesExW(wide(path).c_str(), GetFileExInfoStandard, &data))
             return std::nullopt;
         FileStatus s;
         s.attributes = data.dwFileAttributes & keptAttributes;
@@ -135,8 +134,8 @@ public:
             name = fromWide(raw);
             FolderEntry e;
             e.name = name;
-            e.attributes = data.dwFileAttributes &
-                           (fileattr::hidden | fileattr::system | fileattr::directory);
+            e.attributes =
+                data.dwFileAttributes & (fileattr::hidden | fileattr::system | fileattr::directory);
             e.isLink = (data.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
                        (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
             if (!visit(e))
@@ -205,8 +204,7 @@ public:
     }
 
     std::u16string windowsFolder() override {
-        return fromWide(
-            filled([](wchar_t* b, DWORD n) { return GetWindowsDirectoryW(b, n); }));
+        return fromWide(filled([](wchar_t* b, DWORD n) { return GetWindowsDirectoryW(b, n); }));
     }
 
     std::vector<Volume> volumes() override {
@@ -232,6 +230,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<FileSystem> createFileSystem() { return std::make_unique<Win32FileSystem>(); }
+std::unique_ptr<FileSystem> createFileSystem() {
+    return std::make_unique<Win32FileSystem>();
+}
 
 } // namespace velkor6::win32

@@ -1,9 +1,9 @@
 // FILETIME values as automation dates.
 #pragma once
 
-#include <windows.h>
-
 #include "velkor6/variant.h"
+
+#include <windows.h>
 
 namespace velkor6::win32 {
 

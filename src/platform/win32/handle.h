@@ -1,9 +1,8 @@
 // Owners of Win32 handles.
 #pragma once
 
-#include <windows.h>
-
 #include <utility>
+#include <windows.h>
 
 namespace velkor6::win32 {
 

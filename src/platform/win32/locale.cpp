@@ -1,8 +1,8 @@
 // The user's locale from the Windows locale settings.
-#include <windows.h>
-
 #include "platform/win32/wide.h"
 #include "velkor6/platform/platform.h"
+
+#include <windows.h>
 
 namespace velkor6 {
 namespace {

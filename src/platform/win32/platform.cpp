@@ -1,7 +1,7 @@
-#include <windows.h>
-
 #include "platform/win32/services.h"
 #include "platform/win32/wide.h"
+
+#include <windows.h>
 
 namespace velkor6 {
 namespace win32 {

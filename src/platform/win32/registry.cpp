@@ -1,16 +1,20 @@
 // The registry through the ANSI advapi32 functions, whose results the registry members report.
-#include <windows.h>
-
 #include "platform/win32/services.h"
 #include "platform/win32/wide.h"
+
+#include <windows.h>
 
 namespace velkor6::win32 {
 namespace {
 
 // Handles cross the interface as 32-bit numbers, as clients hold them; the predefined roots
 // are sign-extended like the system's own constants.
-HKEY keyOf(RegHandle h) { return reinterpret_cast<HKEY>(static_cast<LONG_PTR>(h)); }
-RegHandle handleOf(HKEY k) { return static_cast<RegHandle>(reinterpret_cast<LONG_PTR>(k)); }
+HKEY keyOf(RegHandle h) {
+    return reinterpret_cast<HKEY>(static_cast<LONG_PTR>(h));
+}
+RegHandle handleOf(HKEY k) {
+    return static_cast<RegHandle>(reinterpret_cast<LONG_PTR>(k));
+}
 
 class Win32Registry final : public Registry {
 public:
@@ -57,8 +61,8 @@ protected:
     std::int32_t openKey(RegHandle parent, std::u16string_view subKey, std::uint32_t access,
                          RegHandle& result) override {
         HKEY opened = nullptr;
-        const LONG rc = RegOpenKeyExA(keyOf(parent), toAnsiCodePage(subKey).c_str(), 0, access,
-                                      &opened);
+        const LONG rc =
+            RegOpenKeyExA(keyOf(parent), toAnsiCodePage(subKey).c_str(), 0, access, &opened);
         if (rc == ERROR_SUCCESS)
             result = handleOf(opened);
         return rc;
@@ -67,6 +71,8 @@ protected:
 
 } // namespace
 
-std::unique_ptr<Registry> createRegistry() { return std::make_unique<Win32Registry>(); }
+std::unique_ptr<Registry> createRegistry() {
+    return std::make_unique<Win32Registry>();
+}
 
 } // namespace velkor6::win32

@@ -1,12 +1,12 @@
 // The Win32 implementations of the platform services.
 #pragma once
 
+#include "velkor6/platform/platform.h"
+
 #include <memory>
 #include <span>
 #include <string>
 #include <string_view>
-
-#include "velkor6/platform/platform.h"
 
 namespace velkor6::win32 {
 

@@ -1,7 +1,9 @@
 // The desktop's own services: message boxes, the event queue, opening documents and starting
 // programs.
+// clang-format off
 #include <windows.h>
 #include <shellapi.h>
+// clang-format on
 
 #include "platform/win32/handle.h"
 #include "platform/win32/services.h"
@@ -34,10 +36,9 @@ public:
                          std::int32_t showCommand) override {
         const std::wstring v = wide(verb), f = wide(file), p = wide(parameters),
                            d = wide(directory);
-        const HINSTANCE result =
-            ShellExecuteW(nullptr, v.empty() ? nullptr : v.c_str(), f.c_str(),
-                          p.empty() ? nullptr : p.c_str(), d.empty() ? nullptr : d.c_str(),
-                          showCommand);
+        const HINSTANCE result = ShellExecuteW(nullptr, v.empty() ? nullptr : v.c_str(), f.c_str(),
+                                               p.empty() ? nullptr : p.c_str(),
+                                               d.empty() ? nullptr : d.c_str(), showCommand);
         return static_cast<std::int32_t>(reinterpret_cast<INT_PTR>(result));
     }
 
@@ -62,6 +63,8 @@ public:
 std::unique_ptr<UserInterface> createUserInterface() {
     return std::make_unique<Win32UserInterface>();
 }
-std::unique_ptr<Shell> createShell() { return std::make_unique<Win32Shell>(); }
+std::unique_ptr<Shell> createShell() {
+    return std::make_unique<Win32Shell>();
+}
 
 } // namespace velkor6::win32

@@ -29,11 +29,10 @@ inline std::string toAnsiCodePage(std::u16string_view s) {
     if (s.empty())
         return {};
     const auto* w = reinterpret_cast<const wchar_t*>(s.data());
-    const int n = WideCharToMultiByte(CP_ACP, 0, w, static_cast<int>(s.size()), nullptr, 0,
-                                      nullptr, nullptr);
+    const int n =
+        WideCharToMultiByte(CP_ACP, 0, w, static_cast<int>(s.size()), nullptr, 0, nullptr, nullptr);
     std::string out(static_cast<std::size_t>(n), '\0');
-    WideCharToMultiByte(CP_ACP, 0, w, static_cast<int>(s.size()), out.data(), n, nullptr,
-                        nullptr);
+    WideCharToMultiByte(CP_ACP, 0, w, static_cast<int>(s.size()), out.data(), n, nullptr, nullptr);
     return out;
 }
 

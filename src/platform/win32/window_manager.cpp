@@ -1,17 +1,23 @@
 // The caller's windows and the screen through user32.
-#include <windows.h>
-
 #include "platform/win32/services.h"
+
+#include <windows.h>
 
 namespace velkor6::win32 {
 namespace {
 
 // Window handles cross the interface as 32-bit numbers, as clients hold them; the system
 // keeps them within 32 bits so that 32- and 64-bit programs can share them.
-HWND windowOf(WindowHandle h) { return reinterpret_cast<HWND>(static_cast<LONG_PTR>(h)); }
-WindowHandle handleOf(HWND w) { return static_cast<WindowHandle>(reinterpret_cast<LONG_PTR>(w)); }
+HWND windowOf(WindowHandle h) {
+    return reinterpret_cast<HWND>(static_cast<LONG_PTR>(h));
+}
+WindowHandle handleOf(HWND w) {
+    return static_cast<WindowHandle>(reinterpret_cast<LONG_PTR>(w));
+}
 
-WindowRect rectOf(const RECT& r) { return {r.left, r.top, r.right, r.bottom}; }
+WindowRect rectOf(const RECT& r) {
+    return {r.left, r.top, r.right, r.bottom};
+}
 
 class Win32WindowManager final : public WindowManager {
 public:
@@ -31,9 +37,8 @@ public:
         return rectOf(r);
     }
 
-    bool setPosition(WindowHandle window, WindowHandle insertAfter, std::int32_t x,
-                     std::int32_t y, std::int32_t width, std::int32_t height,
-                     std::uint32_t flags) override {
+    bool setPosition(WindowHandle window, WindowHandle insertAfter, std::int32_t x, std::int32_t y,
+                     std::int32_t width, std::int32_t height, std::uint32_t flags) override {
         return SetWindowPos(windowOf(window), windowOf(insertAfter), x, y, width, height, flags);
     }
 

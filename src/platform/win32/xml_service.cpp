@@ -1,21 +1,24 @@
 // XML documents through MSXML (DOMDocument 6.0, else 3.0) and its XPath.
+// clang-format off
 #include <windows.h>
 #include <msxml2.h>
-
-#include <memory>
-#include <string>
-#include <vector>
+// clang-format on
 
 #include "platform/win32/com_ptr.h"
 #include "platform/win32/services.h"
 #include "platform/win32/wide.h"
 #include "velkor6/vb_error.h"
 
+#include <memory>
+#include <string>
+#include <vector>
+
 namespace velkor6::win32 {
 namespace {
 
 // IXMLDOMDocument2, which carries setProperty; the import libraries do not define it.
-const IID iidDocument2 = {0x2933bf95, 0x7b36, 0x11d2, {0xb2, 0x0e, 0x00, 0xc0, 0x4f, 0x98, 0x3e, 0x60}};
+const IID iidDocument2 = {
+    0x2933bf95, 0x7b36, 0x11d2, {0xb2, 0x0e, 0x00, 0xc0, 0x4f, 0x98, 0x3e, 0x60}};
 
 // COM for the calling thread while a document lives; a thread that has it already keeps its own.
 class Apartment {
@@ -116,13 +119,12 @@ public:
     }
     std::optional<std::u16string> attribute(std::u16string_view name) const override {
         ComPtr<IXMLDOMElement> element;
-        if (FAILED(node_->QueryInterface(IID_IXMLDOMElement,
-                                         reinterpret_cast<void**>(element.put()))))
+        if (FAILED(
+                node_->QueryInterface(IID_IXMLDOMElement, reinterpret_cast<void**>(element.put()))))
             return std::nullopt;
         Bstr key(name);
         ScopedVariant value;
-        if (element->getAttribute(key.get(), value.get()) != S_OK ||
-            V_VT(value.get()) != VT_BSTR)
+        if (element->getAttribute(key.get(), value.get()) != S_OK || V_VT(value.get()) != VT_BSTR)
             return std::nullopt;
         return fromBstr(V_BSTR(value.get()));
     }
@@ -194,6 +196,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<XmlService> createXmlService() { return std::make_unique<MsxmlService>(); }
+std::unique_ptr<XmlService> createXmlService() {
+    return std::make_unique<MsxmlService>();
+}
 
 } // namespace velkor6::win32
