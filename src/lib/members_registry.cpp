@@ -13,11 +13,13 @@ constexpr std::u16string_view posixRegistry =
     u"ignore case, sub-keys come in alphabetical order, and names and text pass through the ANSI "
     u"code page (Windows-1252).";
 
-std::u16string withPosixNote(std::u16string_view notes) {
+constexpr std::u16string_view posixPointer =
+    u"On POSIX the registry is read from registry scripts; see regGetValue.";
+
+std::u16string withNote(std::u16string_view notes, std::u16string_view posix = posixPointer) {
     std::u16string text(notes);
-    if (!text.empty())
-        text += u"\n\n";
-    text += posixRegistry;
+    text += u"\n\n";
+    text += posix;
     return text;
 }
 
@@ -39,14 +41,14 @@ void addRegistryMembers(Table<lib>& t) {
          },
          u"A registry value in its stored form: text and binary data as a String, a DWORD "
          u"as a Long; vDefaultValue (or \"\") when it cannot be read.",
-         withPosixNote(
-             u"lRegKey is a root (RegistryKeys) or an open key; sRegSubKey names the key "
-             u"below it, sValueName the value (\"\" for the key's default value). Values "
-             u"of more than 1024 bytes, like missing keys and values, give vDefaultValue "
-             u"as passed, or \"\" without one. Binary data gives one character per byte; "
-             u"a DWORD is read in little-endian order also when stored as big-endian. Any "
-             u"other type (multi-string, 64-bit numbers ...) gives \"\" and ignores "
-             u"vDefaultValue. Expandable strings are not expanded.")});
+         withNote(u"lRegKey is a root (RegistryKeys) or an open key; sRegSubKey names the key "
+                  u"below it, sValueName the value (\"\" for the key's default value). Values "
+                  u"of more than 1024 bytes, like missing keys and values, give vDefaultValue "
+                  u"as passed, or \"\" without one. Binary data gives one character per byte; "
+                  u"a DWORD is read in little-endian order also when stored as big-endian. Any "
+                  u"other type (multi-string, 64-bit numbers ...) gives \"\" and ignores "
+                  u"vDefaultValue. Expandable strings are not expanded.",
+                  posixRegistry)});
     t.push_back({u"regGetLong",
                  Kind::Method,
                  {key, subKey, valueName, optional(u"lDefaultValue", T::Long, std::int32_t{0})},
@@ -56,9 +58,9 @@ void addRegistryMembers(Table<lib>& t) {
                  },
                  u"A registry value as a Long: a DWORD as it is, numeric text as its number; "
                  u"lDefaultValue when it cannot be read.",
-                 withPosixNote(u"Reads like regGetValue with lDefaultValue as the default, then "
-                               u"converts like vkrCVal with the Long type: \"\" and text that is "
-                               u"not a number give 0.")});
+                 withNote(u"Reads like regGetValue with lDefaultValue as the default, then "
+                          u"converts like vkrCVal with the Long type: \"\" and text that is "
+                          u"not a number give 0.")});
     t.push_back({u"regGetString",
                  Kind::Method,
                  {key, subKey, valueName, optional(u"sDefaultValue", T::String, u"")},
@@ -68,8 +70,8 @@ void addRegistryMembers(Table<lib>& t) {
                  },
                  u"A registry value as a String (a DWORD as its decimal text); sDefaultValue when "
                  u"it cannot be read.",
-                 withPosixNote(u"Reads like regGetValue with sDefaultValue as the default. An "
-                               u"existing empty value gives \"\", not the default.")});
+                 withNote(u"Reads like regGetValue with sDefaultValue as the default. An "
+                          u"existing empty value gives \"\", not the default.")});
     t.push_back({u"regSubKeyCount",
                  Kind::Method,
                  {key, subKey},
@@ -77,9 +79,9 @@ void addRegistryMembers(Table<lib>& t) {
                  [](lib& l, Args& a) -> Variant { return l.regSubKeyCount(a.i32(0), a.str(1)); },
                  u"The number of keys in the subtree of sRegSubKey, the key itself included; 0 "
                  u"when it does not open.",
-                 withPosixNote(u"A key without sub-keys counts 1. A sub-key that cannot be opened "
-                               u"ends the counting of its parent's remaining sub-keys. The keys "
-                               u"opened for counting stay open.")});
+                 withNote(u"A key without sub-keys counts 1. A sub-key that cannot be opened "
+                          u"ends the counting of its parent's remaining sub-keys. The keys "
+                          u"opened for counting stay open.")});
     t.push_back({u"regFindKeys",
                  Kind::Method,
                  {key, subKey, byRef(u"sKeys", T::Array | T::String)},
@@ -90,9 +92,9 @@ void addRegistryMembers(Table<lib>& t) {
                  },
                  u"Fills sKeys with the names of the direct sub-keys of sRegSubKey, in the "
                  u"registry's order.",
-                 withPosixNote(u"The array starts at 0; without sub-keys it has no elements. A "
-                               u"name containing \"|\" comes back as two entries. sKeys is left "
-                               u"as it was when the key does not open. The key stays open.")});
+                 withNote(u"The array starts at 0; without sub-keys it has no elements. A "
+                          u"name containing \"|\" comes back as two entries. sKeys is left "
+                          u"as it was when the key does not open. The key stays open.")});
 }
 
 } // namespace velkor6::dispatch

@@ -8,6 +8,7 @@
 #include "core/text.h"
 #include "lib/lib_members.h"
 #include "literal.h"
+#include "velkor6/record_object.h"
 #include "velkor6/vb_error.h"
 
 namespace velkor6::cli {
@@ -41,6 +42,18 @@ std::u16string printText(const Variant& v, const Locale& loc) {
     return toString(v, loc);
 }
 
+// NAME = LITERAL; a record shows each field as NAME.FIELD = LITERAL.
+void printNamed(std::u16string_view name, const Variant& v, std::ostream& out) {
+    if (v.isObject()) {
+        if (const auto* record = dynamic_cast<const RecordObject*>(v.object().get())) {
+            for (const auto& field : record->fields())
+                out << name << '.' << field.name << " = " << typedLiteral(field.value) << '\n';
+            return;
+        }
+    }
+    out << name << " = " << typedLiteral(v) << '\n';
+}
+
 void printError(const VbError& e, std::ostream& err) {
     err << "error " << e.number() << ": " << e.description() << " (" << e.source() << ")\n";
 }
@@ -70,7 +83,7 @@ void callAndPrint(lib& target, const Options& options, const std::u16string& nam
         out << (options.typed ? typedLiteral(result) : printText(result, loc)) << '\n';
     for (std::size_t i = 0; i < member->params.size(); ++i) {
         if (member->params[i].byRef)
-            out << member->params[i].name << " = " << typedLiteral(binding.values[i]) << '\n';
+            printNamed(member->params[i].name, binding.values[i], out);
     }
 }
 

@@ -6,13 +6,17 @@
 #include <vector>
 
 #include "commands.h"
+#include "idl.h"
+#include "lzw_command.h"
 
 namespace {
 
 constexpr const char* usage =
     "usage: velkor6 [--typed] [--locale de-DE|en-US]          calls in VB syntax from stdin\n"
     "       velkor6 call [--typed] [--let] [--locale NAME] MEMBER [ARG ...]\n"
-    "       velkor6 members [--markdown]\n";
+    "       velkor6 members [--markdown | --idl]\n"
+    "       velkor6 deflate < text > packed\n"
+    "       velkor6 inflate [--strict] < packed > text\n";
 
 } // namespace
 
@@ -49,6 +53,10 @@ int main(int argc, char** argv) {
     if (command == "call")
         return velkor6::cli::runCall(options, rest, std::cout, std::cerr);
     if (command == "members") {
+        if (rest.size() == 1 && rest[0] == "--idl") {
+            velkor6::cli::writeIdl(std::cout);
+            return 0;
+        }
         const bool markdown = rest.size() == 1 && rest[0] == "--markdown";
         if (!rest.empty() && !markdown) {
             std::cerr << usage;
@@ -56,6 +64,10 @@ int main(int argc, char** argv) {
         }
         return velkor6::cli::runMembers(markdown, std::cout);
     }
+    if (command == "deflate" && rest.empty())
+        return velkor6::cli::runDeflate(std::cin, std::cout);
+    if (command == "inflate" && (rest.empty() || (rest.size() == 1 && rest[0] == "--strict")))
+        return velkor6::cli::runInflate(std::cin, std::cout, !rest.empty());
     std::cerr << "velkor6: unknown command '" << command << "'\n" << usage;
     return 2;
 }
