@@ -6,6 +6,7 @@
 #include "core/convert.h"
 #include "core/format.h"
 #include "core/text.h"
+#include "lib/applib_members.h"
 #include "lib/lib_members.h"
 #include "literal.h"
 #include "velkor6/record_object.h"
@@ -59,11 +60,12 @@ void printError(const VbError& e, std::ostream& err) {
 }
 
 // Calls one member with parsed arguments and prints the result and every ByRef parameter.
-void callAndPrint(lib& target, const Options& options, const std::u16string& name,
-                  std::vector<ParsedArgument>& parsed, std::optional<Variant> assigned,
-                  std::ostream& out) {
+template <class Target>
+void callAndPrint(const dispatch::Table<Target>& table, Target& target, const Options& options,
+                  const std::u16string& name, std::vector<ParsedArgument>& parsed,
+                  std::optional<Variant> assigned, std::ostream& out) {
     const Kind kind = assigned ? Kind::PropertyLet : Kind::Method;
-    const auto* member = dispatch::find(dispatch::libMembers(), name, kind);
+    const auto* member = dispatch::find(table, name, kind);
     if (member == nullptr)
         dispatch::throwNoSuchMember(name);
     if (assigned)
@@ -95,7 +97,8 @@ std::u16string defaultText(const Variant& v) {
     return toString(v, Locale::englishUS());
 }
 
-std::u16string signature(const dispatch::Member<lib>& m) {
+template <class Target>
+std::u16string signature(const dispatch::Member<Target>& m) {
     std::u16string s = m.name + u"(";
     for (std::size_t i = 0; i < m.params.size(); ++i) {
         const auto& p = m.params[i];
@@ -118,13 +121,56 @@ std::u16string signature(const dispatch::Member<lib>& m) {
     return s;
 }
 
-std::u16string kindLabel(const dispatch::Member<lib>& m) {
+template <class Target>
+std::u16string kindLabel(const dispatch::Member<Target>& m) {
     switch (m.kind) {
     case Kind::PropertyGet: return u"Property Get";
     case Kind::PropertyLet: return u"Property Let";
     default: return m.result == VarType::Empty ? u"Sub" : u"Function";
     }
 }
+
+// The objects a command calls: a `lib`, and with --app the context vkrInitApp made for it.
+class Session {
+public:
+    explicit Session(const Options& options) : lib_(makeModule(options)) {
+        if (!options.appName.empty()) {
+            HostApp host;
+            host.path = fromUtf8(options.appPath);
+            host.exeName = fromUtf8(options.appName);
+            readVersion(options.appVersion, host);
+            app_ = lib_.vkrInitApp(host, host.exeName);
+        }
+    }
+
+    void call(const Options& options, const std::u16string& name,
+              std::vector<ParsedArgument>& parsed, std::optional<Variant> assigned,
+              std::ostream& out) {
+        if (app_)
+            callAndPrint(dispatch::applibMembers(), *app_, options, name, parsed,
+                         std::move(assigned), out);
+        else
+            callAndPrint(dispatch::libMembers(), lib_, options, name, parsed, std::move(assigned),
+                         out);
+    }
+
+private:
+    // "6.1.23" gives Major 6, Minor 1, Revision 23; missing parts stay 0.
+    static void readVersion(const std::string& text, HostApp& host) {
+        std::int16_t* parts[] = {&host.major, &host.minor, &host.revision};
+        std::size_t start = 0;
+        for (auto* part : parts) {
+            if (start >= text.size())
+                break;
+            const std::size_t dot = std::min(text.find('.', start), text.size());
+            *part = static_cast<std::int16_t>(std::stoi(text.substr(start, dot - start)));
+            start = dot + 1;
+        }
+    }
+
+    lib lib_;
+    std::shared_ptr<applib> app_;
+};
 
 } // namespace
 
@@ -147,8 +193,8 @@ int runCall(const Options& options, const std::vector<std::string>& words, std::
         parsed.pop_back();
     }
     try {
-        lib target(makeModule(options));
-        callAndPrint(target, options, fromUtf8(words[0]), parsed, std::move(assigned), out);
+        Session session(options);
+        session.call(options, fromUtf8(words[0]), parsed, std::move(assigned), out);
     } catch (const VbError& e) {
         printError(e, err);
         return 1;
@@ -158,7 +204,13 @@ int runCall(const Options& options, const std::vector<std::string>& words, std::
 
 int runScript(const Options& options, std::istream& in, std::ostream& out, std::ostream& err,
               bool interactive) {
-    lib target(makeModule(options));
+    std::unique_ptr<Session> session;
+    try {
+        session = std::make_unique<Session>(options);
+    } catch (const VbError& e) {
+        printError(e, err);
+        return 1;
+    }
     std::string line;
     while (true) {
         if (interactive)
@@ -173,8 +225,7 @@ int runScript(const Options& options, std::istream& in, std::ostream& out, std::
             continue;
         try {
             ParsedCall call = parseCallLine(trimmed);
-            callAndPrint(target, options, call.member, call.arguments, std::move(call.assigned),
-                         out);
+            session->call(options, call.member, call.arguments, std::move(call.assigned), out);
         } catch (const VbError& e) {
             out << std::flush;
             printError(e, err);
@@ -187,17 +238,16 @@ int runScript(const Options& options, std::istream& in, std::ostream& out, std::
     return 0;
 }
 
-int runMembers(bool markdown, std::ostream& out) {
-    const auto& table = dispatch::libMembers();
-    if (!markdown) {
-        for (const auto& m : table)
-            out << kindLabel(m) << ' ' << signature(m) << '\n';
-        return 0;
-    }
-    out << "# Member reference\n\n"
-           "Generated from the member table by `velkor6 members --markdown`; do not edit.\n\n"
-           "## Class lib\n";
+namespace {
+
+template <class Target>
+void listMembers(const dispatch::Table<Target>& table, std::u16string_view prefix, bool markdown,
+                 std::ostream& out) {
     for (const auto& m : table) {
+        if (!markdown) {
+            out << kindLabel(m) << ' ' << prefix << signature(m) << '\n';
+            continue;
+        }
         out << "\n### " << m.name;
         if (m.kind != Kind::Method)
             out << " (" << kindLabel(m) << ")";
@@ -207,6 +257,19 @@ int runMembers(bool markdown, std::ostream& out) {
         if (!m.notes.empty())
             out << '\n' << m.notes << '\n';
     }
+}
+
+} // namespace
+
+int runMembers(bool markdown, std::ostream& out) {
+    if (markdown)
+        out << "# Member reference\n\n"
+               "Generated from the member tables by `velkor6 members --markdown`; do not edit.\n\n"
+               "## Class lib\n";
+    listMembers(dispatch::libMembers(), u"", markdown, out);
+    if (markdown)
+        out << "\n## Class applib\n";
+    listMembers(dispatch::applibMembers(), u"applib.", markdown, out);
     return 0;
 }
 

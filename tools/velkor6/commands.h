@@ -11,6 +11,10 @@ struct Options {
     bool typed = false;
     bool let = false;
     std::string locale; // empty: the user's locale
+    // With an application name, calls go to the applib that vkrInitApp makes for it.
+    std::string appName;
+    std::string appPath = ".";
+    std::string appVersion;
 };
 
 // velkor6 call [--typed] [--let] [--locale NAME] MEMBER [ARG ...]

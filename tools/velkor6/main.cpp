@@ -14,6 +14,7 @@ namespace {
 constexpr const char* usage =
     "usage: velkor6 [--typed] [--locale de-DE|en-US]          calls in VB syntax from stdin\n"
     "       velkor6 call [--typed] [--let] [--locale NAME] MEMBER [ARG ...]\n"
+    "       velkor6 --app NAME [--app-path DIR] [--app-version 6.1.23] call MEMBER [ARG ...]\n"
     "       velkor6 members [--markdown | --idl]\n"
     "       velkor6 deflate < text > packed\n"
     "       velkor6 inflate [--strict] < packed > text\n";
@@ -38,6 +39,15 @@ int main(int argc, char** argv) {
                 return 2;
             }
             options.locale = words[++i];
+        } else if (optionsAllowed && (w == "--app" || w == "--app-path" || w == "--app-version")) {
+            if (i + 1 == words.size()) {
+                std::cerr << usage;
+                return 2;
+            }
+            std::string& target = w == "--app"        ? options.appName
+                                  : w == "--app-path" ? options.appPath
+                                                      : options.appVersion;
+            target = words[++i];
         } else if (optionsAllowed && (w == "--help" || w == "-h")) {
             std::cout << usage;
             return 0;
