@@ -11,7 +11,7 @@ vkrFindLastSubString("aaaa", "aa")
 vkrCountSubString("a, b, c", ",|b")
 vkrCountSubStringExt("f(a, b), c", ",", sNotInSigns:="()")
 vkrGetSubString("Name: Smith; Age: 42", "Name:", ";")
-vkrSeparateString("key = value", "=")
+vkrSeparateString("key = value", "=", "", "", "")
 ' Replacing leaves double-quoted literals alone.
 vkrReplaceInString("x = ""a"" & a", "a", "b")
 vkrReplaceInStringExt("f(x) + x", "x", "y", sNotInSigns:="()")
@@ -22,7 +22,7 @@ vkrMid("abcdef", 2, 2) = "XYZ"
 
 ' Numbers typed by users: stray characters and grouping marks are dropped.
 vkrVal("EUR 1,234.50")
-vkrVal("12,5,")
+vkrVal("1.234.567")
 vkrCVal(5, Null)
 vkrCVal(3, "42")
 vkrRound(2.5, 0)
@@ -31,9 +31,21 @@ vkrHexToDec("FFFFFFFF")
 vkrHexToDec("x" & Chr(1) & Chr(2))
 vkrHex2Dbl("&H1000000")
 vkrDbl2Hex(255, 4)
-vkrBruchrechnung(0.75)
+vkrBruchrechnung(0.75, 0, 0)
 vkrCompare(1.05, 1, 0.1)
 vkrAND(7, 5)
+
+' SQL literals for both dialects, in any locale.
+vkrSQLDate(#2024-03-15 13:45:00#)
+vkrSQLDate(#2024-03-15#, True)
+vkrSQLFilter(Array("Name", "Smith", "Active", True, "Amount", 12.5))
+vkrIsEmpty("")
+
+' Compression: the packed text is one character per byte.
+vkrGlobalVar("Deflate", "TOBEORNOTTOBEORTOBEORNOT")
+
+' Paths in the platform's style.
+vkrGetFullPath("/usr/share", "doc")
 
 ' Errors are reported with their number and source: an empty alternative never stops counting.
 vkrCountSubString("abc", "a|")

@@ -77,6 +77,13 @@ void callAndPrint(const dispatch::Table<Target>& table, Target& target, const Op
         args.push_back({&p.value, p.name});
     const Locale& loc = target.locale();
     dispatch::Binding binding = dispatch::bindArguments(member->params, args, loc);
+    // A ByRef parameter is shown when the call changed it; inputs that merely pass by
+    // reference (arrays to read, positions) would only repeat the command line.
+    std::vector<Variant> before(binding.values.size());
+    for (std::size_t i = 0; i < member->params.size(); ++i) {
+        if (member->params[i].byRef)
+            before[i] = binding.values[i];
+    }
     dispatch::Args view(binding.values);
     const Variant result = member->call(target, view);
     dispatch::writeBack(member->params, binding);
@@ -84,7 +91,7 @@ void callAndPrint(const dispatch::Table<Target>& table, Target& target, const Op
     if (member->result != VarType::Empty)
         out << (options.typed ? typedLiteral(result) : printText(result, loc)) << '\n';
     for (std::size_t i = 0; i < member->params.size(); ++i) {
-        if (member->params[i].byRef)
+        if (member->params[i].byRef && !(binding.values[i] == before[i]))
             printNamed(member->params[i].name, binding.values[i], out);
     }
 }
