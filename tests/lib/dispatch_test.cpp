@@ -26,15 +26,17 @@ Table<Recorder> table() {
                          s += a.str(0);
                      a.strRef(2) = s + u"!";
                      return s;
-                 }});
+                 },
+                 u"Repeats a text.", u""});
     t.push_back({u"Value", Kind::PropertyGet, {required(u"iIndex", T::Long)}, T::Long,
-                 [](Recorder&, Args& a) -> Variant { return a.i32(0) * 2; }});
+                 [](Recorder&, Args& a) -> Variant { return a.i32(0) * 2; }, u"", u""});
     t.push_back({u"Value", Kind::PropertyLet,
                  {required(u"iIndex", T::Long), required(u"vNew", T::Variant)}, T::Empty,
                  [](Recorder& r, Args& a) -> Variant {
                      r.seen = {a[0], a[1]};
                      return {};
-                 }});
+                 },
+                 u"", u""});
     t.push_back({u"Sum", Kind::Method, {byRef(u"vList", T::Array | T::Double)}, T::Double,
                  [](Recorder&, Args& a) -> Variant {
                      double sum = 0;
@@ -43,7 +45,8 @@ Table<Recorder> table() {
                          v = Variant(0.0);
                      }
                      return sum;
-                 }});
+                 },
+                 u"", u""});
     return t;
 }
 
