@@ -1,18 +1,18 @@
 // Throughput of the compressor and both decoders on text and on random bytes.
-#include <benchmark/benchmark.h>
+#include "lzw/lzw.h"
 
+#include <benchmark/benchmark.h>
 #include <random>
 #include <string>
 #include <vector>
-
-#include "lzw/lzw.h"
 
 namespace {
 
 std::string sampleText(std::size_t n) {
     static const std::vector<std::string> words{
-        "Auftrag ", "order ", "customer ", "Kunde ", "invoice ", "Rechnung ", "the ", "der ",
-        "and ", "und ", "4711 ", "2024-03-15 ", "shipped ", "paid ", ".\r\n", "Müller GmbH "};
+        "Auftrag ", "order ", "customer ", "Kunde ",      "invoice ", "Rechnung ",
+        "the ",     "der ",   "and ",      "und ",        "4711 ",    "2024-03-15 ",
+        "shipped ", "paid ",  ".\r\n",     "Müller GmbH "};
     std::mt19937 rng(1);
     std::uniform_int_distribution<std::size_t> pick(0, words.size() - 1);
     std::string s;

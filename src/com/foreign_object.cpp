@@ -27,37 +27,50 @@ std::u16string ForeignObject::typeName() const {
     return u"Object";
 }
 
+namespace {
+
+// IDispatchEx; the import libraries do not define it.
+const IID iidDispatchEx = {
+    0xa6ef9860, 0xc720, 0x11d0, {0x93, 0x37, 0x00, 0xa0, 0xc9, 0x0d, 0xca, 0xa9}};
+
+} // namespace
+
+bool ForeignObject::memberId(std::u16string_view name, DISPID& id) const {
+    // Script objects answer by IDispatchEx; some engines (Wine's VBScript classes) answer
+    // only there.
+    ComPtr<IDispatchEx> ex;
+    if (SUCCEEDED(dispatch_->QueryInterface(iidDispatchEx, reinterpret_cast<void**>(ex.put())))) {
+        Bstr text(name);
+        if (SUCCEEDED(ex->GetDispID(text.get(), fdexNameCaseInsensitive, &id)))
+            return true;
+    }
+    std::u16string text(name);
+    auto* names = reinterpret_cast<LPOLESTR>(text.data());
+    return SUCCEEDED(dispatch_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id));
+}
+
 Variant ForeignObject::call(std::u16string_view name, CallKind kind, std::span<Variant> args) {
     DISPID member = DISPID_VALUE;
-    if (!name.empty()) {
-        std::u16string text(name);
-        auto* names = reinterpret_cast<LPOLESTR>(text.data());
-        if (FAILED(dispatch_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &member)))
-            throw VbError(vberr::noSuchMember);
-    }
+    if (!name.empty() && !memberId(name, member))
+        throw VbError(vberr::noSuchMember);
 
-    // rgvarg holds the arguments last to first. Plain arguments go as references to VARIANTs
-    // of their own, as VB passes variables; an assigned value goes by value.
+    // rgvarg holds the arguments last to first. They go by value: objects that take their
+    // arguments through a type library (MSXML's) refuse references to VARIANTs.
     const bool assignment = kind == CallKind::PropertyLet;
     const std::size_t count = args.size();
     std::vector<ScopedVariant> values(count);
     std::vector<VARIANT> slots(count);
     for (std::size_t i = 0; i < count; ++i) {
         toVariant(args[i], *values[i].get());
-        VARIANT& slot = slots[count - 1 - i];
-        VariantInit(&slot);
-        if (assignment && i + 1 == count) {
-            slot = *values[i].get();
-        } else {
-            V_VT(&slot) = VT_BYREF | VT_VARIANT;
-            V_VARIANTREF(&slot) = values[i].get();
-        }
+        slots[count - 1 - i] = *values[i].get();
     }
     DISPID putId = DISPID_PROPERTYPUT;
     DISPPARAMS params{};
     params.cArgs = static_cast<UINT>(count);
     params.rgvarg = count > 0 ? slots.data() : nullptr;
-    WORD flags = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
+    // A method goes as a method only: script engines refuse a Sub asked as a property.
+    WORD flags =
+        kind == CallKind::Method ? DISPATCH_METHOD : DISPATCH_METHOD | DISPATCH_PROPERTYGET;
     if (assignment) {
         if (count == 0)
             throw VbError(vberr::argumentNotOptional);
@@ -74,13 +87,6 @@ Variant ForeignObject::call(std::u16string_view name, CallKind kind, std::span<V
     if (FAILED(hr))
         throw errorFromInvoke(hr, info);
 
-    for (std::size_t i = 0; i < count; ++i) {
-        if (assignment && i + 1 == count)
-            continue;
-        Variant after = fromVariant(*values[i].get());
-        if (!(after == args[i]))
-            args[i] = std::move(after);
-    }
     return fromVariant(*result.get());
 }
 

@@ -5,6 +5,7 @@
 // clang-format off
 #include <windows.h>
 #include <oaidl.h>
+#include <dispex.h>
 // clang-format on
 
 #include "com/com_ptr.h"
@@ -19,13 +20,15 @@ public:
     // The name of the object's type description without the leading "_" of a default interface,
     // as VB's TypeName shows it; "Object" without one.
     std::u16string typeName() const override;
-    // Calls through IDispatch: arguments go by reference so that the object can change them;
-    // the object's errors come back as VbError with its number, source and description.
+    // Calls through IDispatch with the arguments by value; the object's errors come back as
+    // VbError with its number, source and description.
     Variant call(std::u16string_view name, CallKind kind, std::span<Variant> args) override;
 
     IDispatch* dispatch() const { return dispatch_.get(); }
 
 private:
+    bool memberId(std::u16string_view name, DISPID& id) const;
+
     ComPtr<IDispatch> dispatch_;
 };
 

@@ -50,7 +50,7 @@ using Sink = std::function<void(std::string_view)>;
 class Inflater {
 public:
     // The output is handed on whenever about `window` bytes of it are held.
-    static constexpr std::size_t defaultWindow = std::size_t{1} << 18;
+    static constexpr std::size_t defaultWindow = std::size_t{1} << 16;
     Inflater(bool strict, Sink sink, std::size_t limit = maxDecodedSize,
              std::size_t window = defaultWindow);
     ~Inflater();

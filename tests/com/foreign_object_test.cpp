@@ -11,8 +11,8 @@
 namespace velkor6::com {
 namespace {
 
-// A caller's object as a script engine would make it: a property, a method that changes its
-// ByRef argument, a property let, and a method that fails with a VB error.
+// A caller's object as a script engine would make it: a property, a method, a property let,
+// and a method that fails with a VB error.
 class HostObject final : public IDispatch {
 public:
     std::u16string path = u"C:\\Apps\\Demo";
@@ -63,11 +63,10 @@ public:
             V_VT(result) = VT_BSTR;
             V_BSTR(result) = allocBstr(path);
             return S_OK;
-        case 2: { // Double(ByRef n)
-            VARIANT* n = V_VARIANTREF(&params->rgvarg[0]);
-            V_I4(n) *= 2;
+        case 2: // Double(n)
+            V_VT(result) = VT_I4;
+            V_I4(result) = V_I4(&params->rgvarg[0]) * 2;
             return S_OK;
-        }
         case 3: // Remove: fails like a collection out of range
             info->scode = static_cast<SCODE>(0x800A0009);
             info->bstrSource = SysAllocString(L"Host");
@@ -90,15 +89,16 @@ TEST(ForeignObject, MembersCallTheCallersObjectByName) {
         std::vector<Variant> none;
         EXPECT_EQ(object->call(u"PATH", Object::CallKind::PropertyGet, none),
                   Variant(u"C:\\Apps\\Demo"));
-        EXPECT_EQ(host.lastFlags, DISPATCH_METHOD | DISPATCH_PROPERTYGET);
+        EXPECT_EQ(host.lastFlags, DISPATCH_METHOD | DISPATCH_PROPERTYGET); // a property get
 
         std::vector<Variant> assigned{Variant(u"D:\\Other")};
         object->call(u"Path", Object::CallKind::PropertyLet, assigned);
         EXPECT_EQ(host.path, u"D:\\Other");
 
         std::vector<Variant> number{Variant(std::int32_t{21})};
-        object->call(u"Double", Object::CallKind::Method, number);
-        EXPECT_EQ(number[0], Variant(std::int32_t{42}));
+        EXPECT_EQ(object->call(u"Double", Object::CallKind::Method, number),
+                  Variant(std::int32_t{42}));
+        EXPECT_EQ(host.lastFlags, DISPATCH_METHOD);
 
         try {
             object->call(u"Remove", Object::CallKind::Method, none);

@@ -9,8 +9,8 @@ namespace {
 
 TEST(LzwCommand, BytesRoundTripAndDamagedStreamsFail) {
     std::string bytes;
-    for (int i = 0; i < 70000; ++i)
-        bytes += static_cast<char>(i * 7 % 256 == 26 ? 0 : (i * i) % 253);
+    for (unsigned i = 0; i < 70000; ++i)
+        bytes += static_cast<char>(i * 7 % 256 == 26 ? 0 : i * i % 253);
     std::istringstream in(bytes);
     std::ostringstream packed;
     ASSERT_EQ(runDeflate(in, packed), 0);

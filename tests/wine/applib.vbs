@@ -18,11 +18,10 @@ Sub Check(what, actual, expected)
     If number <> 0 Then
         Fail what, "error " & number & " " & description
     ElseIf IsArray(expected) Or IsArray(actual) Then
-        If Join(actual, "|") = Join(expected, "|") And UBound(actual) = UBound(expected) _
-            And LBound(actual) = LBound(expected) Then
+        If Joined(actual) = Joined(expected) Then
             passed = passed + 1
         Else
-            Fail what, "array (" & Join(actual, "|") & ") is not (" & Join(expected, "|") & ")"
+            Fail what, "array " & Joined(actual) & " is not " & Joined(expected)
         End If
     ElseIf TypeName(actual) <> TypeName(expected) Then
         Fail what, TypeName(actual) & " " & actual & " is not " & TypeName(expected) & " " & expected
@@ -47,6 +46,16 @@ Sub CheckError(what, number, source, description)
     End If
 End Sub
 
+' Wine's VBScript has no Join.
+Function Joined(items)
+    Dim i
+    Joined = "(" & LBound(items) & " To " & UBound(items) & ":"
+    For i = LBound(items) To UBound(items)
+        Joined = Joined & " " & items(i)
+    Next
+    Joined = Joined & ")"
+End Function
+
 Sub Fail(what, why)
     failed = failed + 1
     WScript.Echo "FAIL " & what & ": " & why
@@ -55,32 +64,25 @@ End Sub
 
 ' The host's application object, written as a VBScript class: what vkrInitApp reads.
 Class HostApp
-    Public Path, EXEName, Major, Minor, Revision
+    Public Path
+    Public EXEName
+    Public Major
+    Public Minor
+    Public Revision
 End Class
 
-' A list view as the column-width members reach it: ColumnHeaders(i).Width.
-Class Column
-    Public Width
-End Class
+' A list view as the column-width members reach it: its window (none here, so every width
+' reads 0) and the count of its columns.
 Class Columns
-    Private items(2)
-    Private Sub Class_Initialize()
-        Dim i
-        For i = 0 To 2
-            Set items(i) = New Column
-            items(i).Width = 1000 * (i + 1)
-        Next
-    End Sub
     Public Property Get Count()
         Count = 3
     End Property
-    Public Default Property Get Item(index)
-        Set Item = items(index - 1)
-    End Property
 End Class
 Class ListView
+    Public hwnd
     Public ColumnHeaders
     Private Sub Class_Initialize()
+        hwnd = 0
         Set ColumnHeaders = New Columns
     End Sub
 End Class
@@ -104,32 +106,32 @@ Check "vkrInitApp returns an applib", TypeName(app), "applib"
 r = Empty : r = app.iniFile : Check "iniFile", LCase(r), LCase(folder & "\winehost.ini")
 r = Empty : r = app.logFile : Check "logFile names the log", LCase(Right(r, 12)), "winehost.log"
 
-app.stringValue("Wine", "Greeting") = "hello" : Check "stringValue let", Err.Number, 0
+app.stringValue("Wine", "Greeting") = "hello" : Check "stringValue let", Err.Number, CLng(0)
 r = Empty : r = app.stringValue("Wine", "Greeting") : Check "stringValue get", r, "hello"
 r = Empty : r = app.stringValue("Wine", "Missing", "fallback") : Check "stringValue default", r, "fallback"
-app.longValue("Wine", "Count") = 42 : Check "longValue let", Err.Number, 0
+app.longValue("Wine", "Count") = 42 : Check "longValue let", Err.Number, CLng(0)
 r = Empty : r = app.longValue("Wine", "Count") : Check "longValue get", r, CLng(42)
-app.boolValue("Wine", "Flag") = True : Check "boolValue let", Err.Number, 0
+app.boolValue("Wine", "Flag") = True : Check "boolValue let", Err.Number, CLng(0)
 r = Empty : r = app.boolValue("Wine", "Flag") : Check "boolValue get", r, True
 r = Empty : r = fso.FileExists(folder & "\winehost.ini") : Check "the settings file exists", r, True
 
 Dim view
 Set view = New ListView
-app.saveColWidths view, "Columns" : Check "saveColWidths", Err.Number, 0
-view.ColumnHeaders(1).Width = 5
-app.loadColWidths view, "Columns" : Check "loadColWidths", view.ColumnHeaders(1).Width, 1000
-app.saveWindowPos 0, "NoForm" : Check "saveWindowPos without a window", Err.Number, 0
-app.loadWindowPos 0, "NoForm" : Check "loadWindowPos without a window", Err.Number, 0
+app.saveColWidths view, "Columns" : Check "saveColWidths", Err.Number, CLng(0)
+r = Empty : r = app.stringValue("ColWidths", "Columns") : Check "saveColWidths stores a width per column", r, "0;0;0"
+app.loadColWidths view, "Columns" : Check "loadColWidths", Err.Number, CLng(0)
+app.saveWindowPos 0, "NoForm" : Check "saveWindowPos without a window", Err.Number, CLng(0)
+app.loadWindowPos 0, "NoForm" : Check "loadWindowPos without a window", Err.Number, CLng(0)
 
-app.logAction "started under Wine" : Check "logAction", Err.Number, 0
-app.logError 5, "Invalid procedure call or argument", "winehost.Main" : Check "logError", Err.Number, 0
+app.logAction "started under Wine" : Check "logAction", Err.Number, CLng(0)
+app.logError 5, "Invalid procedure call or argument", "winehost.Main" : Check "logError", Err.Number, CLng(0)
 Dim logText
 logText = ""
 logText = fso.OpenTextFile(app.logFile).ReadAll()
 Check "the log holds the action", InStr(logText, "started under Wine") > 0, True
 Check "the log holds the error line", InStr(logText, "ERR=5 'Invalid procedure call or argument' (Source=winehost.Main)") > 0, True
 
-r = Empty : r = app.absolutePath("<AppPath>\data.txt")
+r = Empty : r = app.absolutePath("%AppPath%\data.txt")
 Check "absolutePath", LCase(r), LCase(folder & "\data.txt")
 r = Empty : r = app.relativePath(folder & "\data.txt") : Check "relativePath", InStr(r, "data.txt") > 0, True
 
@@ -137,8 +139,8 @@ r = Empty : r = app.language : Check "language get", TypeName(r), "Integer"
 app.language = 2 : r = Empty : r = app.language : Check "language let", r, CInt(2)
 
 ' Both editors are started and left alone; the runner ends them with the prefix.
-app.editINIFile : Check "editINIFile", Err.Number, 0
-app.editLOGFile : Check "editLOGFile", Err.Number, 0
+app.editINIFile : Check "editINIFile", Err.Number, CLng(0)
+app.editLOGFile : Check "editLOGFile", Err.Number, CLng(0)
 
 ' The class on its own, as CreateObject makes it.
 Dim bare

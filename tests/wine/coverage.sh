@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Every member of the type library is called by some VBScript client.
+# Every member of the type library is called by some script client (VBScript or JScript).
 # usage: coverage.sh IDL SCRIPT...
 set -u
 idl=$1
@@ -13,7 +13,7 @@ for member in $(grep -oE '^        [^[ ].* ([A-Za-z_][A-Za-z0-9_]*)\($' "$idl" |
         covered=$((covered + 1))
     else
         missing=$((missing + 1))
-        echo "FAIL no VBScript client calls $member"
+        echo "FAIL no script client calls $member"
     fi
 done
 echo "$covered passed, $missing failed"

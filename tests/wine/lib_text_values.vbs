@@ -17,11 +17,10 @@ Sub Check(what, actual, expected)
     If number <> 0 Then
         Fail what, "error " & number & " " & description
     ElseIf IsArray(expected) Or IsArray(actual) Then
-        If Join(actual, "|") = Join(expected, "|") And UBound(actual) = UBound(expected) _
-            And LBound(actual) = LBound(expected) Then
+        If Joined(actual) = Joined(expected) Then
             passed = passed + 1
         Else
-            Fail what, "array (" & Join(actual, "|") & ") is not (" & Join(expected, "|") & ")"
+            Fail what, "array " & Joined(actual) & " is not " & Joined(expected)
         End If
     ElseIf TypeName(actual) <> TypeName(expected) Then
         Fail what, TypeName(actual) & " " & actual & " is not " & TypeName(expected) & " " & expected
@@ -45,6 +44,16 @@ Sub CheckError(what, number, source, description)
         passed = passed + 1
     End If
 End Sub
+
+' Wine's VBScript has no Join.
+Function Joined(items)
+    Dim i
+    Joined = "(" & LBound(items) & " To " & UBound(items) & ":"
+    For i = LBound(items) To UBound(items)
+        Joined = Joined & " " & items(i)
+    Next
+    Joined = Joined & ")"
+End Function
 
 Sub Fail(what, why)
     failed = failed + 1
@@ -90,7 +99,7 @@ r = Empty : r = o.vkrCountSubStringExt("x 'x' x", "x", 1, True, "''") : Check "v
 r = Empty : r = o.vkrGetSubString("key=[value];", "[", "]") : Check "vkrGetSubString", r, "value"
 s1 = "" : s2 = "" : s3 = ""
 o.vkrSeparateString "name = value", "=", s1, s2, s3
-Check "vkrSeparateString", s1 & "|" & s2 & "|" & s3, "name | = | value"
+Check "vkrSeparateString trims the parts", s1 & "|" & s2 & "|" & s3, "name|=|value"
 r = Empty : r = o.vkrReplaceInString("one two one", "one", "1") : Check "vkrReplaceInString", r, "1 two 1"
 r = Empty : r = o.vkrReplaceInStringExt("a1 b2 a1", "a1", "X") : Check "vkrReplaceInStringExt", r, "X b2 X"
 s1 = "a 'b' c" : s2 = "''" : n1 = 4 : n2 = 1

@@ -25,7 +25,7 @@ failed=0
 for script in "$@"; do
     name=$(basename "$script")
     case "$script" in
-    *.vbs) wine cscript //nologo "$(winpath "$script")" >"$log" 2>&1 ;;
+    *.vbs | *.js) wine cscript //nologo "$(winpath "$script")" >"$log" 2>&1 ;;
     *) wine "$script" >"$log" 2>&1 ;;
     esac
     status=$?

@@ -122,12 +122,14 @@ public:
                 return false;
             }
         }
-        if (!MoveFileExW(temp.c_str(), target.c_str(),
-                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-            DeleteFileW(temp.c_str());
-            return false;
-        }
-        return true;
+        if (MoveFileExW(temp.c_str(), target.c_str(),
+                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            return true;
+        DeleteFileW(temp.c_str());
+        // A name the system will not replace while the file is open (the writer's own lock
+        // holds it): write in place, as the profile writer does.
+        Handle inPlace(openShared(target, GENERIC_WRITE, TRUNCATE_EXISTING));
+        return inPlace.valid() && writeAll(inPlace.get(), bytes);
     }
 };
 
