@@ -68,9 +68,11 @@ Variant ForeignObject::call(std::u16string_view name, CallKind kind, std::span<V
     DISPPARAMS params{};
     params.cArgs = static_cast<UINT>(count);
     params.rgvarg = count > 0 ? slots.data() : nullptr;
-    // A method goes as a method only: script engines refuse a Sub asked as a property.
-    WORD flags =
-        kind == CallKind::Method ? DISPATCH_METHOD : DISPATCH_METHOD | DISPATCH_PROPERTYGET;
+    // Script engines take the flags literally: a Sub asked as a property fails, and so does a
+    // plain value asked as a method. An indexed read (Item(i)) may be either.
+    WORD flags = DISPATCH_METHOD;
+    if (kind == CallKind::PropertyGet)
+        flags = count == 0 ? DISPATCH_PROPERTYGET : DISPATCH_METHOD | DISPATCH_PROPERTYGET;
     if (assignment) {
         if (count == 0)
             throw VbError(vberr::argumentNotOptional);

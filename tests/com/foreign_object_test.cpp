@@ -89,7 +89,7 @@ TEST(ForeignObject, MembersCallTheCallersObjectByName) {
         std::vector<Variant> none;
         EXPECT_EQ(object->call(u"PATH", Object::CallKind::PropertyGet, none),
                   Variant(u"C:\\Apps\\Demo"));
-        EXPECT_EQ(host.lastFlags, DISPATCH_METHOD | DISPATCH_PROPERTYGET); // a property get
+        EXPECT_EQ(host.lastFlags, DISPATCH_PROPERTYGET);
 
         std::vector<Variant> assigned{Variant(u"D:\\Other")};
         object->call(u"Path", Object::CallKind::PropertyLet, assigned);
