@@ -11,38 +11,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/posix/fd.h"
+
 namespace velkor6::posix {
 namespace {
 
 // File systems stamp times from a coarse clock (a few milliseconds, two seconds on FAT), so a
 // change within this span of the last one may leave the time as it was.
 constexpr std::int64_t timeStampGrainNs = 2'000'000'000;
-
-class Fd {
-public:
-    explicit Fd(int fd = -1) : fd_(fd) {}
-    Fd(const Fd&) = delete;
-    Fd& operator=(const Fd&) = delete;
-    ~Fd() {
-        if (fd_ >= 0)
-            ::close(fd_);
-    }
-    int get() const { return fd_; }
-    explicit operator bool() const { return fd_ >= 0; }
-    int release() {
-        const int fd = fd_;
-        fd_ = -1;
-        return fd;
-    }
-    bool close() {
-        const int fd = fd_;
-        fd_ = -1;
-        return ::close(fd) == 0;
-    }
-
-private:
-    int fd_;
-};
 
 bool writeAll(int fd, std::string_view bytes) {
     while (!bytes.empty()) {

@@ -1,5 +1,6 @@
 // The file system through the POSIX calls. Readable names are UTF-8; "\" counts as "/".
 #include "core/date.h"
+#include "platform/posix/fd.h"
 #include "platform/posix/mounts.h"
 #include "platform/posix/services.h"
 #include "platform/posix/utf8_path.h"
@@ -16,29 +17,6 @@
 
 namespace velkor6::posix {
 namespace {
-
-// A file descriptor that closes itself.
-class Fd {
-public:
-    explicit Fd(int fd) : fd_(fd) {}
-    Fd(const Fd&) = delete;
-    Fd& operator=(const Fd&) = delete;
-    ~Fd() {
-        if (fd_ >= 0)
-            ::close(fd_);
-    }
-    int get() const { return fd_; }
-    explicit operator bool() const { return fd_ >= 0; }
-    // Closes now and reports whether the last writes reached the file.
-    bool close() {
-        const int fd = fd_;
-        fd_ = -1;
-        return ::close(fd) == 0;
-    }
-
-private:
-    int fd_;
-};
 
 class Dir {
 public:
