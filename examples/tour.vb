@@ -47,5 +47,9 @@ vkrGlobalVar("Deflate", "TOBEORNOTTOBEORTOBEORNOT")
 ' Paths in the platform's style.
 vkrGetFullPath("/usr/share", "doc")
 
+' Texts for generated files.
+prfReplacePredefinedExpressions("Dear %NAME%,%TAB%%name%", Array("NAME", "Smith"))
+prfPreFormatXML("<a><b>x</b><c/></a>")
+
 ' Errors are reported with their number and source: an empty alternative never stops counting.
 vkrCountSubString("abc", "a|")

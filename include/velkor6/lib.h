@@ -109,6 +109,10 @@ public:
     bool vkrSeparateFile(std::u16string_view sFullName, typFileInfo& tFileInfo);
 
     // --- Predefined expressions and text files -------------------------------------------
+    // pairs: nullptr when the caller left vExpr out.
+    void prfReplacePredefinedExpressions(std::u16string& sString, const Variant* vExpr = nullptr);
+    std::u16string prfTextStream(std::u16string_view sFilename);
+    std::u16string prfPreFormatXML(std::u16string_view sXML);
 
     // --- Folders, special folders and file comparison ------------------------------------
     std::u16string prfGetSpecialFolder(std::int32_t lngCSIDL);

@@ -3,14 +3,14 @@
 // server and the member reference are all built on these rows.
 #pragma once
 
+#include "velkor6/locale.h"
+#include "velkor6/variant.h"
+
 #include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "velkor6/locale.h"
-#include "velkor6/variant.h"
 
 namespace velkor6::dispatch {
 
@@ -52,7 +52,7 @@ struct Member {
 
     std::u16string name;
     Kind kind = Kind::Method;
-    std::vector<Param> params; // for a property let, the last one is the assigned value
+    std::vector<Param> params;       // for a property let, the last one is the assigned value
     VarType result = VarType::Empty; // Empty: no result (a Sub)
     Fn call = nullptr;
     std::u16string summary; // one line for the member reference
@@ -117,9 +117,15 @@ Variant invoke(const Table<Target>& table, Target& target, std::u16string_view n
         throwNoSuchMember(name);
     Binding binding = bindArguments(m->params, args, loc);
     Args view(binding.values);
-    Variant result = m->call(target, view);
-    writeBack(m->params, binding);
-    return result;
+    // A ByRef argument is the caller's variable: what the member wrote before an error stays.
+    try {
+        Variant result = m->call(target, view);
+        writeBack(m->params, binding);
+        return result;
+    } catch (...) {
+        writeBack(m->params, binding);
+        throw;
+    }
 }
 
 template <class Target>

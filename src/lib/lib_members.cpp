@@ -13,6 +13,7 @@ const Table<lib>& libMembers() {
         addRegistryMembers(t);
         addInitAppMembers(t);
         addResourceMembers(t);
+        addTextFileMembers(t);
         return t;
     }();
     return table;

@@ -10,6 +10,7 @@ const Table<lib>& libMembers();
 
 // One function per subsystem adds that subsystem's rows.
 void addTextMembers(Table<lib>& table);
+void addTextFileMembers(Table<lib>& table);
 void addValueMembers(Table<lib>& table);
 void addCallByNameMembers(Table<lib>& table);
 void addSqlMembers(Table<lib>& table);

@@ -1,7 +1,7 @@
-#include <gtest/gtest.h>
-
 #include "lib/dispatch.h"
 #include "velkor6/vb_error.h"
+
+#include <gtest/gtest.h>
 
 namespace velkor6::dispatch {
 namespace {
@@ -27,17 +27,29 @@ Table<Recorder> table() {
                      a.strRef(2) = s + u"!";
                      return s;
                  },
-                 u"Repeats a text.", u""});
-    t.push_back({u"Value", Kind::PropertyGet, {required(u"iIndex", T::Long)}, T::Long,
-                 [](Recorder&, Args& a) -> Variant { return a.i32(0) * 2; }, u"", u""});
-    t.push_back({u"Value", Kind::PropertyLet,
-                 {required(u"iIndex", T::Long), required(u"vNew", T::Variant)}, T::Empty,
+                 u"Repeats a text.",
+                 u""});
+    t.push_back({u"Value",
+                 Kind::PropertyGet,
+                 {required(u"iIndex", T::Long)},
+                 T::Long,
+                 [](Recorder&, Args& a) -> Variant { return a.i32(0) * 2; },
+                 u"",
+                 u""});
+    t.push_back({u"Value",
+                 Kind::PropertyLet,
+                 {required(u"iIndex", T::Long), required(u"vNew", T::Variant)},
+                 T::Empty,
                  [](Recorder& r, Args& a) -> Variant {
                      r.seen = {a[0], a[1]};
                      return {};
                  },
-                 u"", u""});
-    t.push_back({u"Sum", Kind::Method, {byRef(u"vList", T::Array | T::Double)}, T::Double,
+                 u"",
+                 u""});
+    t.push_back({u"Sum",
+                 Kind::Method,
+                 {byRef(u"vList", T::Array | T::Double)},
+                 T::Double,
                  [](Recorder&, Args& a) -> Variant {
                      double sum = 0;
                      for (auto& v : a[0].array().items) {
@@ -46,12 +58,13 @@ Table<Recorder> table() {
                      }
                      return sum;
                  },
-                 u"", u""});
+                 u"",
+                 u""});
     return t;
 }
 
-Variant call(Table<Recorder>& t, Recorder& r, std::u16string_view name,
-             std::vector<Argument> args, Kind kind = Kind::Method) {
+Variant call(Table<Recorder>& t, Recorder& r, std::u16string_view name, std::vector<Argument> args,
+             Kind kind = Kind::Method) {
     return invoke(t, r, name, kind, args, Locale::englishUS());
 }
 
@@ -93,16 +106,24 @@ TEST(Dispatch, RaisesVbErrorsForBadCalls) {
     EXPECT_EQ(errorOf([&] { call(t, r, u"Nope", {}); }), vberr::noSuchMember);
     EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {}); }), vberr::argumentNotOptional);
     Variant two(std::int16_t{2});
-    EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {{&two, u"iCount"}}); }),
+    EXPECT_EQ(errorOf([&] {
+                  call(t, r, u"Join", {{&two, u"iCount"}});
+              }),
               vberr::argumentNotOptional);
     EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {{&text, u""}, {&big, u""}}); }), vberr::overflow);
-    EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {{&text, u""}, {&word, u""}}); }),
+    EXPECT_EQ(errorOf([&] {
+                  call(t, r, u"Join", {{&text, u""}, {&word, u""}});
+              }),
               vberr::typeMismatch);
     EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {{&nul, u""}}); }), vberr::typeMismatch);
     EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {{&arr, u""}}); }), vberr::typeMismatch);
-    EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {{&text, u"sWhat"}}); }),
+    EXPECT_EQ(errorOf([&] {
+                  call(t, r, u"Join", {{&text, u"sWhat"}});
+              }),
               vberr::namedArgumentNotFound);
-    EXPECT_EQ(errorOf([&] { call(t, r, u"Join", {{&text, u""}, {&text, u"sText"}}); }),
+    EXPECT_EQ(errorOf([&] {
+                  call(t, r, u"Join", {{&text, u""}, {&text, u"sText"}});
+              }),
               vberr::wrongArgumentCount);
     EXPECT_EQ(errorOf([&] {
                   call(t, r, u"Join", {{&text, u""}, {&two, u""}, {&text, u""}, {&text, u""}});

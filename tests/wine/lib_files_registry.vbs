@@ -82,6 +82,9 @@ r = Empty : r = o.vkrGetFullPath(folder, "a.txt") : Check "vkrGetFullPath", r, f
 o.vkrFileStream(folder & "\a.txt") = "first line" & vbCrLf : Check "vkrFileStream let", Err.Number, CLng(0)
 ' The let adds CR LF; the get gives the bytes as they are.
 r = Empty : r = o.vkrFileStream(folder & "\a.txt") : Check "vkrFileStream get", r, "first line" & vbCrLf & vbCrLf
+r = Empty : r = o.prfTextStream(folder & "\a.txt") : Check "prfTextStream", r, "first line" & vbCrLf & vbCrLf
+r = Empty : r = o.prfPreFormatXML("<a><b/></a>") : Check "prfPreFormatXML", r, "<a>" & vbCrLf & vbTab & "<b/>" & vbCrLf & "</a>"
+r = "x%TAB%%K%" : o.prfReplacePredefinedExpressions r, Array("K", "v") : Check "prfReplacePredefinedExpressions", r, "x" & vbTab & "v"
 r = Empty : r = o.vkrFileExists(folder & "\a.txt") : Check "vkrFileExists", r, True
 r = Empty : r = o.vkrFileExists(folder & "\none.txt") : Check "vkrFileExists missing", r, False
 r = Empty : r = o.vkrCheckAttributes(folder & "\a.txt", 32) : Check "vkrCheckAttributes", TypeName(r), "Boolean"

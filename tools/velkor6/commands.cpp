@@ -1,8 +1,5 @@
 #include "commands.h"
 
-#include <iostream>
-#include <memory>
-
 #include "core/convert.h"
 #include "core/format.h"
 #include "core/text.h"
@@ -12,12 +9,17 @@
 #include "velkor6/record_object.h"
 #include "velkor6/vb_error.h"
 
+#include <iostream>
+#include <memory>
+
 namespace velkor6::cli {
 namespace {
 
 using dispatch::Kind;
 
-std::ostream& operator<<(std::ostream& os, std::u16string_view s) { return os << toUtf8(s); }
+std::ostream& operator<<(std::ostream& os, std::u16string_view s) {
+    return os << toUtf8(s);
+}
 
 std::shared_ptr<Module> makeModule(const Options& options) {
     auto module = Module::createDefault();
@@ -29,14 +31,22 @@ std::shared_ptr<Module> makeModule(const Options& options) {
 // What VB's Print shows for a value.
 std::u16string printText(const Variant& v, const Locale& loc) {
     switch (v.type()) {
-    case VarType::Empty: return u"";
-    case VarType::Null: return u"Null";
-    case VarType::String: return v.string();
-    case VarType::Boolean: return v.boolean() ? u"True" : u"False";
-    case VarType::Date: return formatGeneralDate(v.date(), loc);
-    case VarType::Object: return v.object() ? v.object()->typeName() : u"Nothing";
-    case VarType::Error: return typedLiteral(v);
-    default: break;
+    case VarType::Empty:
+        return u"";
+    case VarType::Null:
+        return u"Null";
+    case VarType::String:
+        return v.string();
+    case VarType::Boolean:
+        return v.boolean() ? u"True" : u"False";
+    case VarType::Date:
+        return formatGeneralDate(v.date(), loc);
+    case VarType::Object:
+        return v.object() ? v.object()->typeName() : u"Nothing";
+    case VarType::Error:
+        return typedLiteral(v);
+    default:
+        break;
     }
     if (v.isArray())
         return typedLiteral(v);
@@ -131,9 +141,12 @@ std::u16string signature(const dispatch::Member<Target>& m) {
 template <class Target>
 std::u16string kindLabel(const dispatch::Member<Target>& m) {
     switch (m.kind) {
-    case Kind::PropertyGet: return u"Property Get";
-    case Kind::PropertyLet: return u"Property Let";
-    default: return m.result == VarType::Empty ? u"Sub" : u"Function";
+    case Kind::PropertyGet:
+        return u"Property Get";
+    case Kind::PropertyLet:
+        return u"Property Let";
+    default:
+        return m.result == VarType::Empty ? u"Sub" : u"Function";
     }
 }
 

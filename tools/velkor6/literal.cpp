@@ -1,20 +1,26 @@
 #include "literal.h"
 
-#include <charconv>
-#include <cmath>
-#include <limits>
-
 #include "core/convert.h"
 #include "core/date.h"
 #include "core/text.h"
 #include "velkor6/vb_error.h"
 
+#include <charconv>
+#include <cmath>
+#include <limits>
+
 namespace velkor6::cli {
 namespace {
 
-bool isDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
-bool isLetter(char16_t c) { return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); }
-bool isIdentChar(char16_t c) { return isLetter(c) || isDigit(c) || c == u'_'; }
+bool isDigit(char16_t c) {
+    return c >= u'0' && c <= u'9';
+}
+bool isLetter(char16_t c) {
+    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+}
+bool isIdentChar(char16_t c) {
+    return isLetter(c) || isDigit(c) || c == u'_';
+}
 
 [[noreturn]] void syntaxError(std::u16string what) {
     throw VbError(2, u"Syntax error: " + what, u"velkor6");
@@ -276,8 +282,12 @@ private:
             if (fractional || magnitude > 2147483647.0 + (negative ? 1 : 0))
                 return std::nullopt;
             return Variant(static_cast<std::int32_t>(value));
-        case u'!': ++pos_; return Variant(static_cast<float>(value));
-        case u'#': ++pos_; return Variant(value);
+        case u'!':
+            ++pos_;
+            return Variant(static_cast<float>(value));
+        case u'#':
+            ++pos_;
+            return Variant(value);
         case u'@': {
             ++pos_;
             const double scaled = value * 10000.0;
@@ -285,7 +295,8 @@ private:
                 return std::nullopt;
             return Variant(Currency{static_cast<std::int64_t>(std::llround(scaled))});
         }
-        default: break;
+        default:
+            break;
         }
         if (isIdentChar(suffix))
             return std::nullopt;
@@ -374,9 +385,10 @@ std::u16string numberText(double d, bool single) {
     if (d == 0)
         return std::signbit(d) ? u"-0" : u"0";
     char buf[64];
-    const auto res = single ? std::to_chars(buf, buf + sizeof buf, static_cast<float>(d),
-                                            std::chars_format::scientific)
-                            : std::to_chars(buf, buf + sizeof buf, d, std::chars_format::scientific);
+    const auto res = single
+                         ? std::to_chars(buf, buf + sizeof buf, static_cast<float>(d),
+                                         std::chars_format::scientific)
+                         : std::to_chars(buf, buf + sizeof buf, d, std::chars_format::scientific);
     const std::string sci(buf, res.ptr); // "-1.2345e+03"
     const std::size_t e = sci.find('e');
     const bool negative = sci[0] == '-';
@@ -517,12 +529,18 @@ ParsedCall parseCallLine(std::u16string_view line) {
 
 std::u16string typedLiteral(const Variant& v) {
     switch (v.type()) {
-    case VarType::Empty: return u"Empty";
-    case VarType::Null: return u"Null";
-    case VarType::Integer: return fromUtf8(std::to_string(v.integer())) + u"%";
-    case VarType::Long: return fromUtf8(std::to_string(v.longValue())) + u"&";
-    case VarType::Single: return numberText(v.single(), true) + u"!";
-    case VarType::Double: return numberText(v.doubleValue(), false) + u"#";
+    case VarType::Empty:
+        return u"Empty";
+    case VarType::Null:
+        return u"Null";
+    case VarType::Integer:
+        return fromUtf8(std::to_string(v.integer())) + u"%";
+    case VarType::Long:
+        return fromUtf8(std::to_string(v.longValue())) + u"&";
+    case VarType::Single:
+        return numberText(v.single(), true) + u"!";
+    case VarType::Double:
+        return numberText(v.doubleValue(), false) + u"#";
     case VarType::Currency: {
         const std::int64_t scaled = v.currency().scaled;
         const std::uint64_t mag = scaled < 0 ? 0 - static_cast<std::uint64_t>(scaled)
@@ -537,15 +555,18 @@ std::u16string typedLiteral(const Variant& v) {
     }
     case VarType::Date: {
         const DateParts p = splitDate(v.date());
-        std::u16string out = u"#" + fromUtf8(std::to_string(p.year)) + u"-" + two(p.month) +
-                             u"-" + two(p.day);
+        std::u16string out =
+            u"#" + fromUtf8(std::to_string(p.year)) + u"-" + two(p.month) + u"-" + two(p.day);
         if (p.hour != 0 || p.minute != 0 || p.second != 0)
             out += u" " + two(p.hour) + u":" + two(p.minute) + u":" + two(p.second);
         return out + u"#";
     }
-    case VarType::String: return stringLiteralText(v.string());
-    case VarType::Boolean: return v.boolean() ? u"True" : u"False";
-    case VarType::Byte: return u"CByte(" + fromUtf8(std::to_string(v.byte())) + u")";
+    case VarType::String:
+        return stringLiteralText(v.string());
+    case VarType::Boolean:
+        return v.boolean() ? u"True" : u"False";
+    case VarType::Byte:
+        return u"CByte(" + fromUtf8(std::to_string(v.byte())) + u")";
     case VarType::Error:
         if (v.isMissing())
             return u"Missing";
@@ -554,7 +575,8 @@ std::u16string typedLiteral(const Variant& v) {
         if (!v.object())
             return u"Nothing";
         return u"Object(" + v.object()->typeName() + u")";
-    default: break;
+    default:
+        break;
     }
     if (v.type() == VarType::Decimal)
         return u"CDec(\"" + decimalToText(v.decimal(), Locale::englishUS()) + u"\")";

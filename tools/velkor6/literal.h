@@ -1,13 +1,13 @@
 // VB literals as the command line writes them, and back.
 #pragma once
 
+#include "velkor6/locale.h"
+#include "velkor6/variant.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "velkor6/locale.h"
-#include "velkor6/variant.h"
 
 namespace velkor6::cli {
 

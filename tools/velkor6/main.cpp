@@ -1,13 +1,12 @@
 // velkor6: calls the library's members by name from the command line.
-#include <unistd.h>
-
-#include <iostream>
-#include <string>
-#include <vector>
-
 #include "commands.h"
 #include "idl.h"
 #include "lzw_command.h"
+
+#include <iostream>
+#include <string>
+#include <unistd.h>
+#include <vector>
 
 namespace {
 
