@@ -25,8 +25,8 @@ failed=0
 for script in "$@"; do
     name=$(basename "$script")
     case "$script" in
-    *.vbs | *.js) wine cscript //nologo "$(winpath "$script")" >"$log" 2>&1 ;;
-    *) wine "$script" >"$log" 2>&1 ;;
+    *.vbs | *.js) timeout 600 wine cscript //nologo "$(winpath "$script")" >"$log" 2>&1 ;;
+    *) timeout 600 wine "$script" >"$log" 2>&1 ;;
     esac
     status=$?
     output=$(tr -d '\r' <"$log")
