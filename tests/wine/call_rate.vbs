@@ -1,7 +1,6 @@
 ' Late-bound calls per second to lib.vkrFindSubString against VBScript's own InStr on the same
 ' inputs. Passes when both ran; the numbers are for reading.
-Option Explicit
-On Error Resume Next
+' Option Explicit and the shared checks come first from check.inc (see run_scripts.sh).
 
 Const calls = 20000
 Dim o, i, r, started, libSeconds, inStrSeconds, source

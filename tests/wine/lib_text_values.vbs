@@ -1,64 +1,6 @@
 ' Class lib from a late-bound client: the text, number, SQL and call-by-name members, and how
 ' calls cross the boundary (omitted optionals, ByRef arguments, errors, arrays, types).
-Option Explicit
-On Error Resume Next
-
-Dim passed, failed
-passed = 0
-failed = 0
-
-' Call as: r = Empty : r = o.Member(...) : Check "what", r, expected
-' An error in the call skips the assignment; Check then reports it.
-Sub Check(what, actual, expected)
-    Dim number, description
-    number = Err.Number
-    description = Err.Description
-    Err.Clear
-    If number <> 0 Then
-        Fail what, "error " & number & " " & description
-    ElseIf IsArray(expected) Or IsArray(actual) Then
-        If Joined(actual) = Joined(expected) Then
-            passed = passed + 1
-        Else
-            Fail what, "array " & Joined(actual) & " is not " & Joined(expected)
-        End If
-    ElseIf TypeName(actual) <> TypeName(expected) Then
-        Fail what, TypeName(actual) & " " & actual & " is not " & TypeName(expected) & " " & expected
-    ElseIf actual <> expected Then
-        Fail what, "got [" & actual & "], expected [" & expected & "]"
-    Else
-        passed = passed + 1
-    End If
-End Sub
-
-' The call before it must have raised this error.
-Sub CheckError(what, number, source, description)
-    Dim n, s, d
-    n = Err.Number
-    s = Err.Source
-    d = Err.Description
-    Err.Clear
-    If n <> number Or s <> source Or (description <> "" And d <> description) Then
-        Fail what, "error " & n & " (" & s & ") " & d & "; expected " & number & " (" & source & ")"
-    Else
-        passed = passed + 1
-    End If
-End Sub
-
-' Wine's VBScript has no Join.
-Function Joined(items)
-    Dim i
-    Joined = "(" & LBound(items) & " To " & UBound(items) & ":"
-    For i = LBound(items) To UBound(items)
-        Joined = Joined & " " & items(i)
-    Next
-    Joined = Joined & ")"
-End Function
-
-Sub Fail(what, why)
-    failed = failed + 1
-    WScript.Echo "FAIL " & what & ": " & why
-End Sub
+' Check, Fail and the counters come from check.inc, which the runner puts first.
 
 '  A collection of the caller's own, as the library reaches it: Count and Remove.
 Class Bag3

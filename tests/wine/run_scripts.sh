@@ -18,14 +18,20 @@ fi
 
 log=$(mktemp)
 # Programs the clients started (an editor, say) end with the prefix's server.
-trap 'wine regsvr32 /s /u /n /i:machine "$dllPath" >/dev/null 2>&1; wineserver -k; rm -f "$log"' EXIT
+trap 'wine regsvr32 /s /u /n /i:machine "$dllPath" >/dev/null 2>&1; wineserver -k; rm -f "$log" "$(dirname "$log")"/velkor6-*.vbs' EXIT
 
 passed=0
 failed=0
 for script in "$@"; do
     name=$(basename "$script")
     case "$script" in
-    *.vbs | *.js) timeout 600 wine cscript //nologo "$(winpath "$script")" >"$log" 2>&1 ;;
+    *.vbs)
+        # VBScript has no include: the shared checks go in front of each script.
+        combined="$(dirname "$log")/velkor6-$name"
+        cat "$(dirname "$0")/check.inc" "$script" >"$combined"
+        timeout 600 wine cscript //nologo "$(winpath "$combined")" >"$log" 2>&1
+        ;;
+    *.js) timeout 600 wine cscript //nologo "$(winpath "$script")" >"$log" 2>&1 ;;
     *) timeout 600 wine "$script" >"$log" 2>&1 ;;
     esac
     status=$?
