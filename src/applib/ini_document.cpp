@@ -36,13 +36,7 @@ std::u16string decode(std::string_view bytes, TextEncoding& encoding) {
     const bool le = starts("\xFF\xFE");
     if (le || starts("\xFE\xFF")) {
         encoding = le ? TextEncoding::Utf16Le : TextEncoding::Utf16Be;
-        std::u16string text;
-        for (std::size_t i = 2; i + 1 < bytes.size(); i += 2) {
-            const auto b0 = static_cast<unsigned char>(bytes[i]);
-            const auto b1 = static_cast<unsigned char>(bytes[i + 1]);
-            text.push_back(static_cast<char16_t>(le ? b0 | (b1 << 8) : (b0 << 8) | b1));
-        }
-        return text;
+        return fromUtf16(bytes.substr(2), !le);
     }
     encoding = TextEncoding::Ansi;
     return fromAnsi(bytes);

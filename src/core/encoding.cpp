@@ -147,6 +147,18 @@ std::string toAnsi(std::u16string_view s) {
     return out;
 }
 
+std::u16string fromUtf16(std::string_view bytes, bool bigEndian) {
+    std::u16string out;
+    out.reserve(bytes.size() / 2);
+    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        const auto first = static_cast<unsigned char>(bytes[i]);
+        const auto second = static_cast<unsigned char>(bytes[i + 1]);
+        out.push_back(
+            static_cast<char16_t>(bigEndian ? (first << 8) | second : (second << 8) | first));
+    }
+    return out;
+}
+
 std::u16string fromAnsi(std::string_view s) {
     std::u16string out;
     out.reserve(s.size());

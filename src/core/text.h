@@ -15,6 +15,9 @@ std::string toUtf8(std::u16string_view s);
 std::u16string fromUtf8(std::string_view s);
 std::string toAnsi(std::u16string_view s);   // characters without a 1252 byte become '?'
 std::u16string fromAnsi(std::string_view s); // every byte is one character
+// UTF-16 code units from bytes (a mark, if any, is the caller's to skip); an odd last byte is
+// dropped.
+std::u16string fromUtf16(std::string_view bytes, bool bigEndian = false);
 char16_t ansiToChar(unsigned char b);
 // The 1252 byte of a character, or -1 when it has none.
 int charToAnsi(char16_t c);

@@ -86,14 +86,8 @@ std::u16string textFromFileBytes(const std::optional<std::string>& bytes) {
         return {};
     const std::string& b = *bytes;
     if (b.size() >= 2 && static_cast<unsigned char>(b[0]) == 0xFF &&
-        static_cast<unsigned char>(b[1]) == 0xFE) {
-        std::u16string text;
-        text.reserve(b.size() / 2);
-        for (std::size_t i = 2; i + 1 < b.size(); i += 2)
-            text.push_back(static_cast<char16_t>(static_cast<unsigned char>(b[i]) |
-                                                 (static_cast<unsigned char>(b[i + 1]) << 8)));
-        return text;
-    }
+        static_cast<unsigned char>(b[1]) == 0xFE)
+        return fromUtf16(std::string_view(b).substr(2));
     return fromAnsi(b);
 }
 

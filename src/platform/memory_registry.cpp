@@ -15,13 +15,7 @@ std::u16string throughAnsi(std::u16string_view s) {
 }
 
 std::string utf16LeToAnsi(std::string_view bytes) {
-    std::u16string units;
-    units.reserve(bytes.size() / 2);
-    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-        units.push_back(static_cast<char16_t>(static_cast<unsigned char>(bytes[i]) |
-                                              (static_cast<unsigned char>(bytes[i + 1]) << 8)));
-    }
-    return toAnsi(units);
+    return toAnsi(fromUtf16(bytes));
 }
 
 // Calls f with each non-empty key name of a "\"-separated path.

@@ -77,18 +77,6 @@ bool isValidUtf8(std::string_view bytes) {
     return true;
 }
 
-std::u16string fromUtf16(std::string_view bytes, bool bigEndian) {
-    std::u16string out;
-    out.reserve(bytes.size() / 2);
-    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-        const auto first = static_cast<unsigned char>(bytes[i]);
-        const auto second = static_cast<unsigned char>(bytes[i + 1]);
-        out.push_back(
-            static_cast<char16_t>(bigEndian ? (first << 8) | second : (second << 8) | first));
-    }
-    return out;
-}
-
 void appendUtf16Le(std::string& out, char16_t c) {
     out.push_back(static_cast<char>(c & 0xFF));
     out.push_back(static_cast<char>(c >> 8));
