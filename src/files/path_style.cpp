@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace velkor6::files {
@@ -21,16 +22,6 @@ bool isUnc(std::u16string_view p, PathStyle style) {
     return style == PathStyle::Windows && p.size() >= 2 && p[0] == u'\\' && p[1] == u'\\';
 }
 
-// The root a path starts with: "C:\", "C:", "\\" or "\" on Windows, "/" on Posix; "" when
-// it is relative.
-std::size_t rootLength(std::u16string_view p, PathStyle style) {
-    if (hasDrive(p, style))
-        return p.size() >= 3 && p[2] == u'\\' ? 3 : 2;
-    if (isUnc(p, style))
-        return 2;
-    return !p.empty() && isSeparator(p[0], style) ? 1 : 0;
-}
-
 // The root of an absolute path for joining below it ("C:\", "\\srv\share", "\", "/").
 std::u16string stripToRoot(std::u16string_view p, PathStyle style) {
     if (hasDrive(p, style))
@@ -44,6 +35,68 @@ std::u16string stripToRoot(std::u16string_view p, PathStyle style) {
     if (!p.empty() && isSeparator(p[0], style))
         return std::u16string(1, separator(style));
     return {};
+}
+
+// "\\server\share" and nothing more: the root that a ".." must not climb out of.
+bool isUncServerShare(std::u16string_view p) {
+    if (p.size() < 2 || p[0] != u'\\' || p[1] != u'\\')
+        return false;
+    const auto separators = std::count(p.begin() + 2, p.end(), u'\\');
+    return separators == 1;
+}
+
+// The shell's canonicalization works on characters, not components, and the programs this
+// library serves saw its results, quirks included: "..." backs up like ".." followed by ".",
+// a ".." at the start of a relative path stays, and one that runs out of path leaves a root
+// "\" behind and swallows the next character. The steps below reproduce it, reading stale
+// characters past the current end of the output just as the shell's in-place buffer does.
+std::u16string canonicalizeShell(std::u16string_view path) {
+    if (path.empty())
+        return u"\\";
+    std::u16string out(path.size() + 2, u'\0');
+    std::size_t end = 0;
+    std::size_t i = 0;
+    const auto at = [&](std::size_t k) { return k < path.size() ? path[k] : u'\0'; };
+    if (path[0] == u'\\') {
+        out[end++] = path[i++];
+    } else if (at(1) == u':') {
+        out[end++] = path[i++];
+        out[end++] = path[i++];
+        if (at(i) == u'\\')
+            out[end++] = path[i++];
+    }
+    while (i < path.size()) {
+        const bool dot = path[i] == u'.';
+        if (dot && at(i + 1) == u'\\' && (i == 0 || path[i - 1] == u'\\' || path[i - 1] == u':')) {
+            i += 2;
+        } else if (dot && at(i + 1) == u'.' && end > 0 && out[end - 1] == u'\\') {
+            out[end] = u'\0';
+            if (end > 1 && (out[end - 2] != u'\\' || end > 2)) {
+                if (out[end - 2] == u':' && (end > 3 || (end == 3 && out[0] == u':'))) {
+                    end -= 2;
+                    while (end > 0 && out[end] != u'\\')
+                        --end;
+                    end = out[end] == u'\\' ? end + 1 : 0;
+                } else if (out[end - 2] != u':' &&
+                           !isUncServerShare(std::u16string_view(out).substr(0, end))) {
+                    end -= 2;
+                }
+            }
+            while (end > 0 && out[end] != u'\\')
+                --end;
+            if (end == 0) {
+                out[end++] = u'\\';
+                ++i;
+            }
+            i += 2;
+        } else {
+            out[end++] = path[i++];
+        }
+    }
+    if (end == 2 && out[1] == u':')
+        out[end++] = u'\\';
+    out.resize(end);
+    return out;
 }
 
 bool sameChar(char16_t a, char16_t b, PathStyle style) {
@@ -103,13 +156,12 @@ bool removeFileSpec(std::u16string& path, PathStyle style) {
 }
 
 std::u16string canonicalize(std::u16string_view path, PathStyle style) {
-    const char16_t sep = separator(style);
+    if (style == PathStyle::Windows)
+        return canonicalizeShell(path);
     if (path.empty())
-        return std::u16string(1, sep);
-    const std::size_t root = rootLength(path, style);
-    std::u16string result(path.substr(0, root));
-    if (style == PathStyle::Posix && root == 1)
-        result[0] = sep;
+        return u"/";
+    const std::size_t root = isSeparator(path[0], style) ? 1 : 0;
+    std::u16string result = root == 1 ? u"/" : u"";
 
     std::vector<std::u16string_view> parts;
     std::u16string_view rest = path.substr(root);
@@ -130,14 +182,14 @@ std::u16string canonicalize(std::u16string_view path, PathStyle style) {
                 parts.push_back(part);
             continue;
         }
-        // Posix: doubled separators collapse; the empty part after a trailing one stays.
-        if (style == PathStyle::Posix && part.empty() && more)
+        // Doubled separators collapse; the empty part after a trailing one stays.
+        if (part.empty() && more)
             continue;
         parts.push_back(part);
     }
     for (std::size_t i = 0; i < parts.size(); ++i) {
         if (i > 0)
-            result += sep;
+            result += u'/';
         result += parts[i];
     }
     return result;
@@ -239,7 +291,7 @@ std::optional<std::u16string> relativePathTo(std::u16string_view from, bool from
         rest.remove_prefix(end);
     }
     if (result.empty())
-        result = u".";
+        result.push_back(u'.');
     const std::u16string_view tail = to.substr(std::min(shared, to.size()));
     if (!tail.empty()) {
         if (!isSeparator(tail[0], style))

@@ -77,7 +77,14 @@ TEST(PathStyle, CanonicalizeAndAppend) {
         {u"C:\\one\\.\\..\\two\\three\\..", Win, u"C:\\two"},
         {u"C:\\one/.\\two", Win, u"C:\\one/.\\two"},
         {u"C:\\one/.\\..\\two/three\\..\\four/.five", Win, u"C:\\four/.five"},
-        {u"..\\..\\one\\two\\", Win, u"..\\..\\one\\two\\"},
+        {u"../../one/two/", Win, u"../../one/two/"},
+        // The shell's own quirks, which clients saw: a ".." that runs out of a relative path
+        // leaves a root, "..." backs up, a bare drive gets its separator.
+        {u"..\\..\\one\\two\\", Win, u"\\one\\two\\"},
+        {u"...\\..\\x.txt", Win, u"\\x.txt"},
+        {u"C:\\a\\...", Win, u"C:."},
+        {u"d:", Win, u"d:\\"},
+        {u".", Win, u"."},
         {u"C:\\..\\x", Win, u"C:\\x"},
         {u"/a/./b/../c", Posix, u"/a/c"},
         {u"a\\..\\..\\b", Posix, u"../b"},
