@@ -1,20 +1,13 @@
-// UTF-8 and the Windows-1252 code page on either side of the UTF-16 text the library works on.
+// UTF-8 and UTF-16 bytes on either side of the UTF-16 text the library works on; the ANSI code
+// page has a file for each platform.
 #include "core/text.h"
 
-#include <array>
 #include <cstdint>
 
 namespace velkor6 {
 namespace {
 
 constexpr char16_t replacementChar = 0xFFFD;
-
-// Bytes 0x80 to 0x9F. The five bytes the code page leaves undefined keep their C1 controls,
-// as the system's conversion does.
-constexpr std::array<char16_t, 32> ansiHighControls = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 bool isHighSurrogate(char16_t c) {
     return c >= 0xD800 && c <= 0xDBFF;
@@ -121,32 +114,6 @@ std::u16string fromUtf8(std::string_view s) {
     return out;
 }
 
-char16_t ansiToChar(unsigned char b) {
-    if (b >= 0x80 && b <= 0x9F)
-        return ansiHighControls[b - 0x80];
-    return b;
-}
-
-int charToAnsi(char16_t c) {
-    if (c < 0x80 || (c >= 0xA0 && c <= 0xFF))
-        return c;
-    for (std::size_t i = 0; i < ansiHighControls.size(); ++i) {
-        if (ansiHighControls[i] == c)
-            return static_cast<int>(0x80 + i);
-    }
-    return -1;
-}
-
-std::string toAnsi(std::u16string_view s) {
-    std::string out;
-    out.reserve(s.size());
-    for (char16_t c : s) {
-        const int b = charToAnsi(c);
-        out.push_back(b < 0 ? '?' : static_cast<char>(b));
-    }
-    return out;
-}
-
 std::u16string fromUtf16(std::string_view bytes, bool bigEndian) {
     std::u16string out;
     out.reserve(bytes.size() / 2);
@@ -156,14 +123,6 @@ std::u16string fromUtf16(std::string_view bytes, bool bigEndian) {
         out.push_back(
             static_cast<char16_t>(bigEndian ? (first << 8) | second : (second << 8) | first));
     }
-    return out;
-}
-
-std::u16string fromAnsi(std::string_view s) {
-    std::u16string out;
-    out.reserve(s.size());
-    for (char b : s)
-        out.push_back(ansiToChar(static_cast<unsigned char>(b)));
     return out;
 }
 

@@ -9,17 +9,17 @@ namespace velkor6 {
 
 enum class Compare { Binary = 0, Text = 1 };
 
-// Encodings at the edges: UTF-8 for the CLI and POSIX file names, the ANSI code page
-// (Windows-1252 here) where bytes become characters one by one.
+// Encodings at the edges: UTF-8 for the CLI and POSIX file names, the ANSI code page where
+// bytes become characters (the process's code page on Windows, Windows-1252 elsewhere).
 std::string toUtf8(std::u16string_view s);
 std::u16string fromUtf8(std::string_view s);
-std::string toAnsi(std::u16string_view s);   // characters without a 1252 byte become '?'
-std::u16string fromAnsi(std::string_view s); // every byte is one character
+std::string toAnsi(std::u16string_view s);   // characters the code page lacks become '?'
+std::u16string fromAnsi(std::string_view s); // in a single-byte code page, one byte a character
 // UTF-16 code units from bytes (a mark, if any, is the caller's to skip); an odd last byte is
 // dropped.
 std::u16string fromUtf16(std::string_view bytes, bool bigEndian = false);
 char16_t ansiToChar(unsigned char b);
-// The 1252 byte of a character, or -1 when it has none.
+// The code page's byte for a character, or -1 when it has none.
 int charToAnsi(char16_t c);
 
 // Case folding for text comparison: what a user expects for Latin text, including accented

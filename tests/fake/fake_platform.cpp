@@ -1,6 +1,8 @@
 #include "fake/fake_platform.h"
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include "platform/win32/services.h"
+#else
 #include "platform/posix/xml_service.h"
 #endif
 
@@ -24,8 +26,10 @@ std::unique_ptr<Platform> makePlatform() {
     p->registry = std::make_unique<MemoryRegistry>();
     p->fileStore = std::make_unique<FakeFileStore>(static_cast<FakeFileSystem&>(*p->fileSystem));
     p->windowManager = std::make_unique<FakeWindowManager>();
-#ifndef _WIN32
-    // Parsing touches nothing of the system: the tests use the real parser.
+    // Parsing touches nothing of the system: the tests use the real parser (MSXML on Windows).
+#ifdef _WIN32
+    p->xml = win32::createXmlService();
+#else
     p->xml = posix::createXmlService();
 #endif
     // A folder that does not exist: the library's own settings stay unwritten unless a test

@@ -1,6 +1,6 @@
 // The registry through the ANSI advapi32 functions, whose results the registry members report.
+#include "core/text.h"
 #include "platform/win32/services.h"
-#include "platform/win32/wide.h"
 
 #include <windows.h>
 
@@ -20,7 +20,7 @@ class Win32Registry final : public Registry {
 public:
     std::int32_t queryValue(RegHandle key, std::u16string_view name, std::size_t capacity,
                             RegValue& value) override {
-        const std::string valueName = toAnsiCodePage(name);
+        const std::string valueName = toAnsi(name);
         DWORD type = REG_NONE;
         std::string data(capacity, '\0');
         auto size = static_cast<DWORD>(capacity);
@@ -47,7 +47,7 @@ public:
         if (rc != ERROR_SUCCESS)
             return rc;
         buffer.resize(size);
-        name = fromAnsiCodePage(buffer);
+        name = fromAnsi(buffer);
         return regstatus::success;
     }
 
@@ -61,8 +61,7 @@ protected:
     std::int32_t openKey(RegHandle parent, std::u16string_view subKey, std::uint32_t access,
                          RegHandle& result) override {
         HKEY opened = nullptr;
-        const LONG rc =
-            RegOpenKeyExA(keyOf(parent), toAnsiCodePage(subKey).c_str(), 0, access, &opened);
+        const LONG rc = RegOpenKeyExA(keyOf(parent), toAnsi(subKey).c_str(), 0, access, &opened);
         if (rc == ERROR_SUCCESS)
             result = handleOf(opened);
         return rc;
