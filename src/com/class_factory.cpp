@@ -1,37 +1,24 @@
 #include "com/class_factory.h"
 
+#include "com/com_object.h"
 #include "com/com_ptr.h"
 #include "com/error_info.h"
 #include "com/server_classes.h"
 #include "com/server_state.h"
 
-#include <atomic>
 #include <new>
 
 namespace velkor6::com {
 namespace {
 
-class ClassFactory final : public IClassFactory {
+class ClassFactory final : public ComObject<ClassFactory, IClassFactory> {
 public:
     explicit ClassFactory(const ClassEntry& entry) : entry_(entry) {}
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** out) override {
-        if (out == nullptr)
-            return E_POINTER;
-        if (!IsEqualIID(riid, IID_IUnknown) && !IsEqualIID(riid, IID_IClassFactory)) {
-            *out = nullptr;
-            return E_NOINTERFACE;
-        }
-        *out = static_cast<IClassFactory*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
+    void* interfaceFor(REFIID riid) {
+        if (IsEqualIID(riid, IID_IUnknown) || IsEqualIID(riid, IID_IClassFactory))
+            return static_cast<IClassFactory*>(this);
+        return nullptr;
     }
 
     HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID riid, void** out) override {
@@ -57,10 +44,10 @@ public:
     }
 
 private:
+    friend ComObject;
     ~ClassFactory() = default;
 
     LiveObject live_;
-    std::atomic<ULONG> references_{1};
     const ClassEntry& entry_;
 };
 

@@ -1,35 +1,22 @@
 #include "com/class_type_info.h"
 
+#include "com/com_object.h"
 #include "com/com_ptr.h"
 
-#include <atomic>
 #include <string>
 
 namespace velkor6::com {
 namespace {
 
-class ClassTypeInfo final : public ITypeInfo {
+class ClassTypeInfo final : public ComObject<ClassTypeInfo, ITypeInfo> {
 public:
     ClassTypeInfo(ITypeInfo* inner, std::u16string_view name)
         : inner_(ComPtr<ITypeInfo>::share(inner)), name_(name) {}
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** out) override {
-        if (out == nullptr)
-            return E_POINTER;
-        if (!IsEqualIID(riid, IID_IUnknown) && !IsEqualIID(riid, IID_ITypeInfo)) {
-            *out = nullptr;
-            return E_NOINTERFACE;
-        }
-        *out = static_cast<ITypeInfo*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
+    void* interfaceFor(REFIID riid) {
+        if (IsEqualIID(riid, IID_IUnknown) || IsEqualIID(riid, IID_ITypeInfo))
+            return static_cast<ITypeInfo*>(this);
+        return nullptr;
     }
 
     HRESULT STDMETHODCALLTYPE GetDocumentation(MEMBERID member, BSTR* name, BSTR* doc,
@@ -101,9 +88,9 @@ public:
     void STDMETHODCALLTYPE ReleaseVarDesc(VARDESC* desc) override { inner_->ReleaseVarDesc(desc); }
 
 private:
+    friend ComObject;
     ~ClassTypeInfo() = default;
 
-    std::atomic<ULONG> references_{1};
     ComPtr<ITypeInfo> inner_;
     std::u16string name_;
 };

@@ -8,6 +8,7 @@
 
 #include "com/call_arguments.h"
 #include "com/class_type_info.h"
+#include "com/com_object.h"
 #include "com/com_ptr.h"
 #include "com/error_info.h"
 #include "com/member_index.h"
@@ -17,13 +18,12 @@
 #include "lib/dispatch_object.h"
 #include "velkor6/module.h"
 
-#include <atomic>
 #include <memory>
 
 namespace velkor6::com {
 
 template <class Target>
-class DispatchObject final : public IDispatch, public OwnObject {
+class DispatchObject final : public ComObject<DispatchObject<Target>, IDispatch, OwnObject> {
 public:
     // A new object with one reference, which the caller owns.
     // className and interfaceId name the class's type description in the type library;
@@ -36,28 +36,13 @@ public:
                                   std::move(context), std::move(object));
     }
 
-    // IUnknown
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** out) override {
-        if (out == nullptr)
-            return E_POINTER;
+    void* interfaceFor(REFIID riid) {
         if (IsEqualIID(riid, IID_IUnknown) || IsEqualIID(riid, IID_IDispatch) ||
-            IsEqualIID(riid, interfaceId_)) {
-            *out = static_cast<IDispatch*>(this);
-        } else if (IsEqualIID(riid, iidOwnObject)) {
-            *out = static_cast<OwnObject*>(this);
-        } else {
-            *out = nullptr;
-            return E_NOINTERFACE;
-        }
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
+            IsEqualIID(riid, interfaceId_))
+            return static_cast<IDispatch*>(this);
+        if (IsEqualIID(riid, iidOwnObject))
+            return static_cast<OwnObject*>(this);
+        return nullptr;
     }
 
     // IDispatch
@@ -138,6 +123,8 @@ public:
     Target& target() { return *target_; }
 
 private:
+    friend ComObject<DispatchObject<Target>, IDispatch, OwnObject>;
+
     DispatchObject(std::shared_ptr<Target> target, const MemberIndex<Target>& index,
                    std::u16string_view className, const GUID& interfaceId,
                    std::shared_ptr<Module> context, ObjectRef object)
@@ -160,7 +147,6 @@ private:
     }
 
     LiveObject live_;
-    std::atomic<ULONG> references_{1};
     std::shared_ptr<Target> target_;
     const MemberIndex<Target>& index_;
     std::u16string_view className_;

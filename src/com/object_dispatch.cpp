@@ -1,43 +1,29 @@
 #include "com/object_dispatch.h"
 
 #include "com/call_arguments.h"
+#include "com/com_object.h"
 #include "com/error_info.h"
 #include "com/object_wrap.h"
 #include "com/server_state.h"
 #include "com/variant_convert.h"
 #include "lib/dispatch.h"
 
-#include <atomic>
 #include <string>
 #include <vector>
 
 namespace velkor6::com {
 namespace {
 
-class ObjectDispatch final : public IDispatch, public OwnObject {
+class ObjectDispatch final : public ComObject<ObjectDispatch, IDispatch, OwnObject> {
 public:
     explicit ObjectDispatch(ObjectRef object) : object_(std::move(object)) {}
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** out) override {
-        if (out == nullptr)
-            return E_POINTER;
-        if (IsEqualIID(riid, IID_IUnknown) || IsEqualIID(riid, IID_IDispatch)) {
-            *out = static_cast<IDispatch*>(this);
-        } else if (IsEqualIID(riid, iidOwnObject)) {
-            *out = static_cast<OwnObject*>(this);
-        } else {
-            *out = nullptr;
-            return E_NOINTERFACE;
-        }
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
+    void* interfaceFor(REFIID riid) {
+        if (IsEqualIID(riid, IID_IUnknown) || IsEqualIID(riid, IID_IDispatch))
+            return static_cast<IDispatch*>(this);
+        if (IsEqualIID(riid, iidOwnObject))
+            return static_cast<OwnObject*>(this);
+        return nullptr;
     }
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
@@ -104,6 +90,7 @@ public:
     const void* STDMETHODCALLTYPE owner() override { return thisModuleToken(); }
 
 private:
+    friend ComObject;
     ~ObjectDispatch() = default;
 
     DISPID idOf(std::u16string_view name) {
@@ -116,7 +103,6 @@ private:
     }
 
     LiveObject live_;
-    std::atomic<ULONG> references_{1};
     ObjectRef object_;
     std::vector<std::u16string> names_;
 };
