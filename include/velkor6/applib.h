@@ -95,6 +95,8 @@ private:
     // Start-up for the host application: identity, settings file, log file, language,
     // KeepLogFiles, the emptied log and its first line.
     void init(const HostApp& app, std::u16string_view appName);
+    // The system's settings-file functions where the platform has them, else our own.
+    SettingsFiles& settingsFiles();
 
     std::shared_ptr<Module> module_;
     std::u16string iniFile_;

@@ -13,19 +13,15 @@
 
 namespace velkor6::app {
 
-class ProfileFile {
+class ProfileFile final : public SettingsFiles {
 public:
     explicit ProfileFile(Platform& platform) : platform_(platform) {}
 
-    // The value of key in section, "" when the file, the section or the key is missing. A
-    // relative file name means a file in the Windows folder; "" reads nothing.
     std::u16string read(std::u16string_view path, std::u16string_view section,
-                        std::u16string_view key);
-
-    // Sets the key, or deletes it when value is nullopt. True also when nothing had to change;
-    // false when the file could not be written.
+                        std::u16string_view key) override;
+    // True also when nothing had to change.
     bool write(std::u16string_view path, std::u16string_view section, std::u16string_view key,
-               std::optional<std::u16string_view> value);
+               std::optional<std::u16string_view> value) override;
 
 private:
     struct Cached {

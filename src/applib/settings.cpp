@@ -13,7 +13,7 @@ namespace velkor6 {
 std::u16string applib::stringValue(std::u16string_view section, std::u16string_view propname,
                                    std::u16string_view defaultValue, bool bAutoCreate) {
     // The cached name on purpose: before initialisation there is no settings file to read.
-    const std::u16string stored = profile_->read(iniFile_, section, propname);
+    const std::u16string stored = settingsFiles().read(iniFile_, section, propname);
     if (!stored.empty())
         return absolutePath(stored);
     if (bAutoCreate)
@@ -29,9 +29,9 @@ void applib::stringValueLet(std::u16string_view section, std::u16string_view pro
     if (value == current && value == relative)
         return;
     if (relative.empty())
-        profile_->write(iniFile_, section, propname, std::nullopt);
+        settingsFiles().write(iniFile_, section, propname, std::nullopt);
     else
-        profile_->write(iniFile_, section, propname, relative);
+        settingsFiles().write(iniFile_, section, propname, relative);
 }
 
 std::int32_t applib::longValue(std::u16string_view section, std::u16string_view propname,

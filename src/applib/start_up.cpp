@@ -14,6 +14,12 @@ applib::applib(std::shared_ptr<Module> module)
 
 applib::~applib() = default;
 
+SettingsFiles& applib::settingsFiles() {
+    if (SettingsFiles* system = module_->platform().settingsFiles.get())
+        return *system;
+    return *profile_;
+}
+
 void applib::init(const HostApp& app, std::u16string_view appName) {
     appName_ = appName;
     appPath_ = app.path;

@@ -55,6 +55,15 @@ app.longValue("Wine", "Count") = 42 : Check "longValue let", Err.Number, CLng(0)
 r = Empty : r = app.longValue("Wine", "Count") : Check "longValue get", r, CLng(42)
 app.boolValue("Wine", "Flag") = True : Check "boolValue let", Err.Number, CLng(0)
 r = Empty : r = app.boolValue("Wine", "Flag") : Check "boolValue get", r, True
+r = Empty : r = app.stringValue("Wine", "Auto", "made", True) : Check "stringValue auto-create", r, "made"
+app.stringValue("Wine", "Greeting") = "" : Check "stringValue let of an empty text", Err.Number, CLng(0)
+r = Empty : r = app.stringValue("Wine", "Greeting", "gone") : Check "an empty text deletes the key", r, "gone"
+' The file as another program reads it: the written keys are there, the deleted one is not.
+Dim settingsText
+settingsText = fso.OpenTextFile(app.iniFile).ReadAll
+Check "the settings file holds the auto-created key", InStr(settingsText, "Auto=made") > 0, True
+Check "the settings file holds the long", InStr(settingsText, "Count=42") > 0, True
+Check "the deleted key is gone from the file", InStr(settingsText, "Greeting=") = 0, True
 r = Empty : r = fso.FileExists(folder & "\winehost.ini") : Check "the settings file exists", r, True
 
 Dim view

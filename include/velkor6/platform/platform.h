@@ -2,9 +2,6 @@
 // and a fake one in the tests.
 #pragma once
 
-#include <memory>
-#include <string>
-
 #include "velkor6/locale.h"
 #include "velkor6/platform/clock.h"
 #include "velkor6/platform/environment.h"
@@ -12,10 +9,14 @@
 #include "velkor6/platform/file_system.h"
 #include "velkor6/platform/input_state.h"
 #include "velkor6/platform/registry.h"
+#include "velkor6/platform/settings_files.h"
 #include "velkor6/platform/shell.h"
 #include "velkor6/platform/ui.h"
 #include "velkor6/platform/window_manager.h"
 #include "velkor6/platform/xml.h"
+
+#include <memory>
+#include <string>
 
 namespace velkor6 {
 
@@ -30,6 +31,9 @@ struct Platform {
     std::unique_ptr<FileStore> fileStore;
     std::unique_ptr<WindowManager> windowManager;
     std::unique_ptr<XmlService> xml;
+    // The system's own settings-file functions; null where it has none, and the library reads
+    // and writes the files itself.
+    std::unique_ptr<SettingsFiles> settingsFiles;
     // The folder of the binary that holds the library (the library's own settings file sits
     // there), without a trailing separator.
     std::u16string libraryFolder;

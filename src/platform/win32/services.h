@@ -20,6 +20,7 @@ std::unique_ptr<Registry> createRegistry();
 std::unique_ptr<FileStore> createFileStore();
 std::unique_ptr<WindowManager> createWindowManager();
 std::unique_ptr<XmlService> createXmlService();
+std::unique_ptr<SettingsFiles> createSettingsFiles();
 // The folder of the module (DLL or program) that holds the library.
 std::u16string libraryFolder();
 
