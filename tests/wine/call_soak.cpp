@@ -12,7 +12,7 @@
 namespace {
 
 struct Usage {
-    SIZE_T privateBytes = 0;
+    std::size_t privateBytes = 0;
     DWORD handles = 0; // Wine reports none
 };
 

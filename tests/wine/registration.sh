@@ -6,7 +6,7 @@
 set -u
 build=$1
 dll=$(readlink -f "$2")
-. "$(dirname "$0")/wine_env.sh" "$build"
+. "$(dirname "$0")/wine_env.sh" "$build" "$dll"
 dllPath=$(winpath "$dll")
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -26,16 +26,16 @@ check() { # description, command...
 
 snapshot() { # root key, file
     : >"$2"
-    wine reg export "$1\\Software\\Classes" "$(winpath "$2")" /y >/dev/null 2>&1
+    winsys reg export "$1\\Software\\Classes" "$(winpath "$2")" /y >/dev/null 2>&1
     # Timestamps and the order of keys do not matter; the content does.
     tr -d '\0\r' <"$2" | sort >"$2.sorted"
 }
 
 value() { # key, value name ("" for the default value)
     if [ -z "$2" ]; then
-        wine reg query "$1" /ve 2>/dev/null | tr -d '\r'
+        winsys reg query "$1" /ve 2>/dev/null | tr -d '\r'
     else
-        wine reg query "$1" /v "$2" 2>/dev/null | tr -d '\r'
+        winsys reg query "$1" /v "$2" 2>/dev/null | tr -d '\r'
     fi
 }
 
@@ -51,7 +51,7 @@ for scope in user machine; do
     fi
     classes="$root\\Software\\Classes"
     snapshot $root "$work/before"
-    check "$scope: register" wine "${install[@]}"
+    check "$scope: register" winsys "${install[@]}"
     clsid=$(value "$classes\\velkor6.lib\\CLSID" "" | grep -o '{[0-9A-F-]*}')
     check "$scope: velkor6.lib names a class" test -n "$clsid"
     check "$scope: the versioned ProgID" grep -q "$clsid" <(value "$classes\\velkor6.lib.1\\CLSID" "")
@@ -60,8 +60,8 @@ for scope in user machine; do
     check "$scope: apartment threading" \
         grep -q Apartment <(value "$classes\\CLSID\\$clsid\\InprocServer32" ThreadingModel)
     check "$scope: the type library" \
-        grep -qiF "$dllPath" <(wine reg query "$classes\\TypeLib" /s 2>/dev/null | tr -d '\r')
-    check "$scope: unregister" wine "${uninstall[@]}"
+        grep -qiF "$dllPath" <(winsys reg query "$classes\\TypeLib" /s 2>/dev/null | tr -d '\r')
+    check "$scope: unregister" winsys "${uninstall[@]}"
     snapshot $root "$work/after"
     if diff "$work/before.sorted" "$work/after.sorted" >"$work/diff"; then
         passed=$((passed + 1))

@@ -69,7 +69,8 @@ attempt("vkrXMLFillComboWithResList", function () {
     check("vkrXMLFillComboWithResList starts with the none entry", combo.items[0], "(none)");
 });
 
-// Without a resource library the string and resource lookups answer "".
+// Without a resource library the string and resource lookups answer ""; loadRes also shows its
+// error in a message box, which the runner answers.
 attempt("vkrRes and loadRes", function () {
     var host = {Path: lib.vkrTempDir(), EXEName: "jsclient", Major: 1, Minor: 0, Revision: 0};
     var app = lib.vkrInitApp(host, "jsclient");

@@ -2,23 +2,25 @@
 # Registers velkor6.dll per machine in the build's Wine prefix (Wine reads classes only from
 # there), runs each client (a VBScript file with cscript, a program directly) and unregisters
 # the DLL again. A client passes when it exits with 0 and printed its "N passed, M failed"
-# line: Wine's cscript exits with 0 and prints nothing on a syntax error.
-# usage: run_scripts.sh BUILD_DIR DLL CLIENT...
+# line: Wine's cscript exits with 0 and prints nothing on a syntax error. Each client runs under
+# ANSWERER (answer_boxes.exe), which presses the default button of every box the client shows.
+# usage: run_scripts.sh BUILD_DIR DLL ANSWERER CLIENT...
 set -u
 build=$1
 dll=$(readlink -f "$2")
-shift 2
-. "$(dirname "$0")/wine_env.sh" "$build"
+answerer=$(readlink -f "$3")
+shift 3
+. "$(dirname "$0")/wine_env.sh" "$build" "$dll"
 
 dllPath=$(winpath "$dll")
-if ! wine regsvr32 /s /n /i:machine "$dllPath" >/dev/null 2>&1; then
+if ! winsys regsvr32 /s /n /i:machine "$dllPath" >/dev/null 2>&1; then
     echo "regsvr32 /n /i:machine failed for $dllPath"
     exit 1
 fi
 
 log=$(mktemp)
 # Programs the clients started (an editor, say) end with the prefix's server.
-trap 'wine regsvr32 /s /u /n /i:machine "$dllPath" >/dev/null 2>&1; wineserver -k; rm -f "$log" "$(dirname "$log")"/velkor6-*.vbs' EXIT
+trap 'winsys regsvr32 /s /u /n /i:machine "$dllPath" >/dev/null 2>&1; wineserver -k; rm -f "$log" "$(dirname "$log")"/velkor6-*.vbs' EXIT
 
 passed=0
 failed=0
@@ -29,10 +31,14 @@ for script in "$@"; do
         # VBScript has no include: the shared checks go in front of each script.
         combined="$(dirname "$log")/velkor6-$name"
         cat "$(dirname "$0")/check.inc" "$script" >"$combined"
-        timeout 600 wine cscript //nologo "$(winpath "$combined")" >"$log" 2>&1
+        timeout 600 wine "$answerer" "$(winsysprogram cscript)" //nologo "$(winpath "$combined")" \
+            >"$log" 2>&1
         ;;
-    *.js) timeout 600 wine cscript //nologo "$(winpath "$script")" >"$log" 2>&1 ;;
-    *) timeout 600 wine "$script" >"$log" 2>&1 ;;
+    *.js)
+        timeout 600 wine "$answerer" "$(winsysprogram cscript)" //nologo "$(winpath "$script")" \
+            >"$log" 2>&1
+        ;;
+    *) timeout 600 wine "$answerer" "$(winpath "$script")" >"$log" 2>&1 ;;
     esac
     status=$?
     output=$(tr -d '\r' <"$log")

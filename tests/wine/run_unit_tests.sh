@@ -7,7 +7,7 @@ build=$1
 exe=$2
 shift 2
 here=$(dirname "$0")
-. "$here/wine_env.sh" "$build"
+. "$here/wine_env.sh" "$build" "$exe"
 
 excluded=$(sed -e 's/#.*//' -e 's/[[:space:]]//g' "$here/known_failures.txt" | grep -v '^$' |
            paste -sd: -)
