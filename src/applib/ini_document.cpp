@@ -83,30 +83,24 @@ IniDocument::Line::Line(std::u16string lineText, std::u16string lineEnd)
     };
     if (t.empty())
         return;
-    if (t.front() == u'[') {
+    // The name runs to the last "]"; text after it is ignored.
+    const std::size_t close = t.rfind(u']');
+    if (t.front() == u'[' && close != std::u16string_view::npos) {
         kind = Kind::Section;
-        std::u16string_view inner = t.substr(1);
-        const std::size_t close = inner.rfind(u']');
-        if (close != std::u16string_view::npos)
-            inner = inner.substr(0, close);
-        setName(trimProfileBlanks(inner));
-        return;
-    }
-    if (t.front() == u';') {
-        kind = Kind::Comment;
+        setName(trimProfileBlanks(t.substr(1, close - 1)));
         return;
     }
     kind = Kind::Entry;
     const std::size_t eq = t.find(u'=');
     if (eq == std::u16string_view::npos) {
         setName(t);
-        valueStart = offset(t) + t.size();
         return;
     }
     setName(rtrim(t.substr(0, eq)));
     const std::u16string_view v = ltrim(t.substr(eq + 1));
     valueStart = offset(v);
     valueLength = v.size();
+    hasValue = true;
 }
 
 IniDocument::IniDocument(std::string_view bytes) {
@@ -172,7 +166,7 @@ std::optional<std::u16string> IniDocument::value(std::u16string_view section,
     if (!header)
         return std::nullopt;
     const auto line = findKey(*header, key);
-    if (!line)
+    if (!line || !lines_[*line].hasValue)
         return std::nullopt;
     std::u16string_view v = lines_[*line].value();
     if (v.size() >= 2 && (v.front() == u'"' || v.front() == u'\'') && v.back() == v.front())

@@ -15,8 +15,11 @@ enum class TextEncoding { Ansi, Utf8, Utf16Le, Utf16Be };
 
 // The rules: section and key names compare without regard to case and with blanks around them
 // dropped; the first matching section, and the first matching key in it, wins; a value loses
-// its surrounding blanks and one pair of enclosing quotes ("..." or '...'); lines starting with
-// ";" are comments. Lines the changes do not touch keep their bytes and line ends.
+// its surrounding blanks and one pair of enclosing quotes ("..." or '...'). A line without "="
+// names a key that has no value: a read misses it, a write gives it one. A line starting with
+// "[" but without "]" is no header. Comment lines (";...") get no treatment of their own: they
+// are keys whose names start with ";". Lines the changes do not touch keep their bytes and line
+// ends.
 class IniDocument {
 public:
     // A read gives at most this many characters (the readers' buffer holds one more).
@@ -28,7 +31,7 @@ public:
     std::string bytes() const;
     TextEncoding encoding() const { return encoding_; }
 
-    // nullopt when the section or the key is missing (or a name is empty).
+    // nullopt when the section or the key is missing, the key has no "=", or a name is empty.
     std::optional<std::u16string> value(std::u16string_view section, std::u16string_view key) const;
 
     // Replaces the key's line, or adds "key=value" after the last line of its section, or adds
@@ -38,7 +41,7 @@ public:
     bool remove(std::u16string_view section, std::u16string_view key);
 
 private:
-    enum class Kind { Blank, Section, Entry, Comment };
+    enum class Kind { Blank, Section, Entry };
     struct Line {
         Line(std::u16string text, std::u16string end);
 
@@ -48,6 +51,7 @@ private:
         Kind kind = Kind::Blank;
         std::size_t nameStart = 0, nameLength = 0;   // of a section or key
         std::size_t valueStart = 0, valueLength = 0; // of an entry
+        bool hasValue = false;                       // an entry with "="
         std::u16string_view name() const {
             return std::u16string_view(text).substr(nameStart, nameLength);
         }

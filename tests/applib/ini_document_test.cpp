@@ -29,7 +29,7 @@ TEST(IniDocument, ReadsLikeTheProfileFunctions) {
         {sample, u"SECTION1", u"name1", u"val1"},       // and so do sections
         {sample, u"  section1  ", u" name1 ", u"val1"}, // arguments are trimmed
         {sample, u"section1", u"name2", u"val2"},       // one pair of quotes goes
-        {sample, u"section1", u"name3", u""},           // a line without "=" has no value
+        {sample, u"section1", u"name3", std::nullopt},  // a line without "=" has no value
         {sample, u"section2", u"name1", std::nullopt},
         {sample, u"", u"name1", std::nullopt},
         {sample, u"section1", u"", std::nullopt},
@@ -40,7 +40,10 @@ TEST(IniDocument, ReadsLikeTheProfileFunctions) {
         {"[s]\r\nk=\"x'\r\n", u"s", u"k", u"\"x'"}, // quotes must match
         {"[s]\r\nk=\"\r\n", u"s", u"k", u"\""},     // one quote is no pair
         {"[s]\r\nk=\"a\" b \"c\"\r\n", u"s", u"k", u"a\" b \"c"},
-        {"[s]\r\n;k=comment\r\nk=real\r\n", u"s", u";k", std::nullopt},
+        {"[s]\r\n;k=comment\r\nk=real\r\n", u"s", u"k", u"real"},
+        {"[s]\r\n;k=comment\r\n", u"s", u";k", u"comment"}, // a comment is no exception
+        {"[s]\r\n[t\r\nk=v\r\n", u"s", u"k", u"v"},         // "[" without "]" is no header
+        {"[s]\r\n[t\r\nk=v\r\n", u"t", u"k", std::nullopt},
         {"[s]\r\nk=first\r\nK=second\r\n", u"s", u"k", u"first"},
         {"[s]\r\nk=1\r\n[S]\r\nk=2\r\nj=3\r\n", u"s", u"j", std::nullopt}, // first section only
         {"k=before\r\n[s]\r\n", u"s", u"k", std::nullopt},
@@ -84,6 +87,8 @@ TEST(IniDocument, WritesLikeTheProfileFunctions) {
         {"[A]\r\na=1\r\n", u"A", u"a", std::nullopt, "[A]\r\n"}, // an empty section stays
         {"junk\0\r\n[A]\r\na=1\r\n"s, u"A", u"a", u"2", "junk\0\r\n[A]\r\na=2\r\n"s},
         {"[A]\r\n; keep\r\na=1\r\n", u"A", u"a", u"2", "[A]\r\n; keep\r\na=2\r\n"},
+        {"[A]\r\n;k=1\r\n", u"A", u";k", u"2", "[A]\r\n;k=2\r\n"},
+        {"[A]\r\n[B\r\nk=1\r\n", u"A", u"k", u"2", "[A]\r\n[B\r\nk=2\r\n"},
         {"\xEF\xBB\xBF[A]\r\n", u"A", u"k", u"ä", "\xEF\xBB\xBF[A]\r\nk=\xC3\xA4\r\n"},
         {"[A]\r\n", u"A", u"k", u"ä", "[A]\r\nk=\xE4\r\n"},
     };
