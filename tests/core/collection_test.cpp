@@ -1,19 +1,11 @@
 #include "core/collection.h"
+#include "fake/error_of.h"
 #include "velkor6/vb_error.h"
 
 #include <gtest/gtest.h>
 
 namespace velkor6 {
 namespace {
-
-int errorOf(auto&& f) {
-    try {
-        f();
-    } catch (const VbError& e) {
-        return e.number();
-    }
-    return 0;
-}
 
 std::u16string contents(const Collection& c) {
     std::u16string s;

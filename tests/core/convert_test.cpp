@@ -1,4 +1,5 @@
 #include "core/convert.h"
+#include "fake/error_of.h"
 #include "velkor6/vb_error.h"
 
 #include <gtest/gtest.h>
@@ -8,16 +9,6 @@ namespace {
 
 const Locale& us = Locale::englishUS();
 const Locale& de = Locale::germanGermany();
-
-template <class F>
-std::int32_t errorOf(F f) {
-    try {
-        f();
-    } catch (const VbError& e) {
-        return e.number();
-    }
-    return 0;
-}
 
 class Named final : public Object {
 public:

@@ -1,20 +1,12 @@
 #include "core/date.h"
 #include "core/text.h"
+#include "fake/error_of.h"
 #include "velkor6/vb_error.h"
 
 #include <gtest/gtest.h>
 
 namespace velkor6 {
 namespace {
-
-int errorOf(auto&& f) {
-    try {
-        f();
-    } catch (const VbError& e) {
-        return e.number();
-    }
-    return 0;
-}
 
 TEST(Date, SplitsSerialsRoundingToTheSecond) {
     struct Case {

@@ -1,4 +1,5 @@
 #include "core/convert.h"
+#include "fake/error_of.h"
 #include "velkor6/vb_error.h"
 
 #include <gtest/gtest.h>
@@ -7,16 +8,6 @@ namespace velkor6 {
 namespace {
 
 const Locale& us = Locale::englishUS();
-
-template <class F>
-std::int32_t errorOf(F f) {
-    try {
-        f();
-    } catch (const VbError& e) {
-        return e.number();
-    }
-    return 0;
-}
 
 Decimal dec(std::u16string_view text) {
     return toDecimal(Variant(text), us);

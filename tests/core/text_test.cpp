@@ -1,4 +1,5 @@
 #include "core/text.h"
+#include "fake/error_of.h"
 #include "velkor6/vb_error.h"
 
 #include <gtest/gtest.h>
@@ -6,15 +7,6 @@
 
 namespace velkor6 {
 namespace {
-
-int errorOf(auto&& f) {
-    try {
-        f();
-    } catch (const VbError& e) {
-        return e.number();
-    }
-    return 0;
-}
 
 TEST(TextEncoding, Utf8RoundTripsAndReplacesWhatIsIllFormed) {
     const std::u16string text = u"a\u00E4\u20AC\U0001F600z";

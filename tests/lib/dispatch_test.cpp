@@ -1,3 +1,4 @@
+#include "fake/error_of.h"
 #include "lib/dispatch.h"
 #include "velkor6/vb_error.h"
 
@@ -66,15 +67,6 @@ Table<Recorder> table() {
 Variant call(Table<Recorder>& t, Recorder& r, std::u16string_view name, std::vector<Argument> args,
              Kind kind = Kind::Method) {
     return invoke(t, r, name, kind, args, Locale::englishUS());
-}
-
-int errorOf(auto&& f) {
-    try {
-        f();
-    } catch (const VbError& e) {
-        return e.number();
-    }
-    return 0;
 }
 
 TEST(Dispatch, BindsPositionalNamedOmittedAndByRef) {

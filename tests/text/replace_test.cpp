@@ -1,3 +1,4 @@
+#include "fake/error_of.h"
 #include "text/random_text.h"
 #include "text/reference_loops.h"
 #include "text/text_members.h"
@@ -9,15 +10,6 @@
 
 namespace velkor6::text {
 namespace {
-
-int errorOf(auto&& f) {
-    try {
-        f();
-    } catch (const VbError& e) {
-        return e.number();
-    }
-    return 0;
-}
 
 const Locale& en = Locale::englishUS();
 

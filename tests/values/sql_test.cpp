@@ -1,3 +1,4 @@
+#include "fake/error_of.h"
 #include "values/sql.h"
 #include "velkor6/vb_error.h"
 
@@ -8,15 +9,6 @@ namespace {
 
 const Date today{45000};
 const double march15 = 45366; // 2024-03-15
-
-int errorOf(auto&& f) {
-    try {
-        f();
-    } catch (const VbError& e) {
-        return e.number();
-    }
-    return 0;
-}
 
 TEST(ValuesSql, DateLiteralsIgnoreTheLocaleSeparators) {
     for (const Locale* loc : {&Locale::germanGermany(), &Locale::englishUS()}) {
