@@ -2,6 +2,8 @@
 // that settings files behave alike on every platform.
 #pragma once
 
+#include "velkor6/platform/settings_files.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -22,8 +24,7 @@ enum class TextEncoding { Ansi, Utf8, Utf16Le, Utf16Be };
 // ends.
 class IniDocument {
 public:
-    // A read gives at most this many characters (the readers' buffer holds one more).
-    static constexpr std::size_t maxValueLength = 2047;
+    static constexpr std::size_t maxValueLength = SettingsFiles::maxValueLength;
 
     IniDocument() = default;
     explicit IniDocument(std::string_view bytes);
