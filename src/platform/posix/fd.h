@@ -1,6 +1,9 @@
-// A file descriptor that closes itself.
+// A file descriptor that closes itself, and whole writes to one.
 #pragma once
 
+#include <cerrno>
+#include <cstddef>
+#include <string_view>
 #include <unistd.h>
 
 namespace velkor6::posix {
@@ -32,5 +35,19 @@ public:
 private:
     int fd_;
 };
+
+// Writes all of bytes, resuming after short writes and interruptions; false on an error.
+inline bool writeAll(int fd, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t n = ::write(fd, bytes.data(), bytes.size());
+        if (n < 0) {
+            if (errno == EINTR)
+                continue;
+            return false;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(n));
+    }
+    return true;
+}
 
 } // namespace velkor6::posix

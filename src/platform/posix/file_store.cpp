@@ -1,5 +1,6 @@
 #include "platform/posix/file_store.h"
 
+#include "platform/posix/fd.h"
 #include "platform/posix/utf8_path.h"
 
 #include <cerrno>
@@ -11,27 +12,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/posix/fd.h"
-
 namespace velkor6::posix {
 namespace {
 
 // File systems stamp times from a coarse clock (a few milliseconds, two seconds on FAT), so a
 // change within this span of the last one may leave the time as it was.
 constexpr std::int64_t timeStampGrainNs = 2'000'000'000;
-
-bool writeAll(int fd, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t n = ::write(fd, bytes.data(), bytes.size());
-        if (n < 0) {
-            if (errno == EINTR)
-                continue;
-            return false;
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(n));
-    }
-    return true;
-}
 
 std::int64_t nanoseconds(const timespec& t) {
     return static_cast<std::int64_t>(t.tv_sec) * 1'000'000'000 + t.tv_nsec;
