@@ -71,9 +71,11 @@ struct ErrorCode {
 class Variant;
 
 // What a Variant holding an object refers to: anything that answers calls by name.
+// How a member is called: the three ways a dispatch interface tells apart.
+enum class CallKind { Method, PropertyGet, PropertyLet };
+
 class Object {
 public:
-    enum class CallKind { Method, PropertyGet, PropertyLet };
 
     virtual ~Object() = default;
     virtual std::u16string typeName() const = 0;

@@ -9,7 +9,7 @@ namespace velkor6::app {
 namespace {
 
 Variant property(Object& object, std::u16string_view name) {
-    return object.call(name, Object::CallKind::PropertyGet, {});
+    return object.call(name, CallKind::PropertyGet, {});
 }
 
 // At least width digits; a minus sign goes before the padding, as Format writes it.

@@ -84,8 +84,7 @@ public:
         if (!IsEqualIID(riid, IID_NULL))
             return DISP_E_UNKNOWNINTERFACE;
         const bool assignment = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
-        const auto* row =
-            index_.row(member, assignment ? dispatch::Kind::PropertyLet : dispatch::Kind::Method);
+        const auto* row = index_.row(member, assignment ? CallKind::PropertyLet : CallKind::Method);
         if (row == nullptr)
             return DISP_E_MEMBERNOTFOUND;
         DISPPARAMS none{};
@@ -94,13 +93,9 @@ public:
             if (const HRESULT hr = call.read(params ? *params : none, row->params, argError);
                 FAILED(hr))
                 return hr;
-            const Locale& locale = context_->locale();
-            dispatch::Binding binding =
-                dispatch::bindArguments(row->params, call.arguments(), locale);
-            dispatch::Args view(binding.values);
-            const Variant value = row->call(*target_, view);
-            dispatch::writeBack(row->params, binding);
-            call.writeBack(row->params, binding);
+            const Variant value = dispatch::call(
+                *row, *target_, call.arguments(), context_->locale(),
+                [&](const dispatch::Binding& binding) { call.writeBack(row->params, binding); });
             if (result != nullptr && row->result != VarType::Empty) {
                 toVariant(value, *result);
             }

@@ -1,10 +1,9 @@
 // Names and member numbers of one class's table, for GetIDsOfNames and Invoke.
 #pragma once
 
-#include "com/idl_names.h"
 #include "core/text.h"
 #include "lib/dispatch.h"
-#include "lib/member_ids.h"
+#include "lib/idl_names.h"
 
 #include <cstdint>
 #include <string>
@@ -20,16 +19,15 @@ public:
     using Member = dispatch::Member<Target>;
 
     explicit MemberIndex(const dispatch::Table<Target>& table) : table_(table) {
-        const std::vector<std::int32_t> ids = dispatch::memberIds(table);
         for (std::size_t i = 0; i < table.size(); ++i) {
-            const auto id = static_cast<std::size_t>(ids[i]);
+            const auto id = static_cast<std::size_t>(table[i].id);
             if (id > getters_.size()) {
                 getters_.resize(id, nullptr);
                 setters_.resize(id, nullptr);
-                byName_.emplace(key(table[i].name), ids[i]);
             }
+            byName_.emplace(key(table[i].name), table[i].id);
             auto& slot =
-                table[i].kind == dispatch::Kind::PropertyLet ? setters_[id - 1] : getters_[id - 1];
+                table[i].kind == CallKind::PropertyLet ? setters_[id - 1] : getters_[id - 1];
             if (slot == nullptr)
                 slot = &table[i];
         }
@@ -44,23 +42,24 @@ public:
     }
 
     // The row a call reaches: a let for property assignments, otherwise a method or a get.
-    const Member* row(std::int32_t id, dispatch::Kind kind) const {
+    const Member* row(std::int32_t id, CallKind kind) const {
         if (id < 1 || static_cast<std::size_t>(id) > getters_.size())
             return nullptr;
         const auto i = static_cast<std::size_t>(id - 1);
-        return kind == dispatch::Kind::PropertyLet ? setters_[i] : getters_[i];
+        return kind == CallKind::PropertyLet ? setters_[i] : getters_[i];
     }
 
     // The position of a parameter of the member, by name in any letter case, or -1.
     std::int32_t paramOf(std::int32_t id, std::u16string_view name) const {
-        for (const auto kind : {dispatch::Kind::Method, dispatch::Kind::PropertyLet}) {
+        for (const auto kind : {CallKind::Method, CallKind::PropertyLet}) {
             const Member* m = row(id, kind);
             if (m == nullptr)
                 continue;
             for (std::size_t p = 0; p < m->params.size(); ++p) {
                 const std::u16string& own = m->params[p].name;
                 if (dispatch::sameName(own, name) ||
-                    (isIdlKeyword(own) && dispatch::sameName(idlParameterName(own), name)))
+                    (typelib::isIdlKeyword(own) &&
+                     dispatch::sameName(typelib::idlParameterName(own), name)))
                     return static_cast<std::int32_t>(p);
             }
         }

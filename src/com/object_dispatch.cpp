@@ -72,10 +72,10 @@ public:
                 FAILED(hr))
                 return hr;
             const std::vector<Variant> before(call.values().begin(), call.values().end());
-            const Object::CallKind kind = assignment ? Object::CallKind::PropertyLet
+            const CallKind kind = assignment ? CallKind::PropertyLet
                                           : (flags & DISPATCH_METHOD) != 0
-                                              ? Object::CallKind::Method
-                                              : Object::CallKind::PropertyGet;
+                                              ? CallKind::Method
+                                              : CallKind::PropertyGet;
             const Variant value = object_->call(name, kind, call.values());
             call.writeBackChanged(before);
             if (result != nullptr)

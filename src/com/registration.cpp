@@ -1,6 +1,6 @@
 #include "com/registration.h"
 
-#include "com/class_ids.h"
+#include "lib/class_ids.h"
 #include "com/server_classes.h"
 #include "platform/win32/wide.h"
 
@@ -87,7 +87,7 @@ bool deleteIfEmpty(Scope scope, const std::wstring& key) {
 }
 
 std::wstring typeLibVersion() {
-    return std::to_wstring(libraryMajor) + L"." + std::to_wstring(libraryMinor);
+    return std::to_wstring(typelib::libraryMajor) + L"." + std::to_wstring(typelib::libraryMinor);
 }
 
 std::wstring folderOf(const std::wstring& path) {
@@ -98,8 +98,8 @@ std::wstring folderOf(const std::wstring& path) {
 } // namespace
 
 HRESULT registerServer(Scope scope, const std::wstring& serverPath) {
-    const std::wstring library = win32::wide(libraryName);
-    const std::wstring libId = braced(libraryId);
+    const std::wstring library = win32::wide(typelib::libraryName);
+    const std::wstring libId = braced(typelib::libraryId);
     const std::wstring version = typeLibVersion();
     const std::wstring typeLibKey = L"TypeLib\\" + libId + L"\\" + version;
 
@@ -117,7 +117,7 @@ HRESULT registerServer(Scope scope, const std::wstring& serverPath) {
     for (const ClassEntry& c : serverClasses()) {
         const std::wstring name = win32::wide(c.ids.name);
         const std::wstring progId = library + L"." + name;
-        const std::wstring versioned = progId + L"." + std::to_wstring(libraryMajor);
+        const std::wstring versioned = progId + L"." + std::to_wstring(typelib::libraryMajor);
         const std::wstring clsid = braced(c.ids.classId);
         const std::wstring clsidKey = L"CLSID\\" + clsid;
         const std::wstring interfaceKey = L"Interface\\" + braced(c.ids.interfaceId);
@@ -152,8 +152,8 @@ HRESULT registerServer(Scope scope, const std::wstring& serverPath) {
 }
 
 HRESULT unregisterServer(Scope scope) {
-    const std::wstring library = win32::wide(libraryName);
-    const std::wstring libKey = L"TypeLib\\" + braced(libraryId);
+    const std::wstring library = win32::wide(typelib::libraryName);
+    const std::wstring libKey = L"TypeLib\\" + braced(typelib::libraryId);
     const std::wstring versionKey = libKey + L"\\" + typeLibVersion();
     bool ok = deleteTree(scope, versionKey + L"\\0\\" + std::wstring(platformKey)) == ERROR_SUCCESS;
     // The interfaces and the type library's version key are shared with the other bitness's
@@ -167,7 +167,7 @@ HRESULT unregisterServer(Scope scope) {
     for (const ClassEntry& c : serverClasses()) {
         const std::wstring progId = library + L"." + win32::wide(c.ids.name);
         for (const std::wstring& key : {L"CLSID\\" + braced(c.ids.classId), progId,
-                                        progId + L"." + std::to_wstring(libraryMajor)})
+                                        progId + L"." + std::to_wstring(typelib::libraryMajor)})
             ok = deleteTree(scope, key) == ERROR_SUCCESS && ok;
         if (last)
             ok = deleteTree(scope, L"Interface\\" + braced(c.ids.interfaceId)) == ERROR_SUCCESS &&

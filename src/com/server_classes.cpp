@@ -17,8 +17,8 @@ GUID guidOf(std::u16string_view text) {
 
 std::span<const ClassEntry> serverClasses() {
     static const std::vector<ClassEntry> classes{
-        ServerClass<lib, libIds, dispatch::libMembers>::entry(),
-        ServerClass<applib, applibIds, dispatch::applibMembers>::entry(),
+        ServerClass<lib, typelib::libIds, dispatch::libMembers>::entry(),
+        ServerClass<applib, typelib::applibIds, dispatch::applibMembers>::entry(),
     };
     return classes;
 }

@@ -7,10 +7,10 @@
 #include <oaidl.h>
 // clang-format on
 
-#include "com/class_ids.h"
 #include "com/dispatch_object.h"
 #include "com/member_index.h"
 #include "com/server_state.h"
+#include "lib/class_ids.h"
 
 #include <memory>
 #include <span>
@@ -21,7 +21,7 @@ namespace velkor6::com {
 GUID guidOf(std::u16string_view text); // "XXXXXXXX-XXXX-..." without braces
 
 struct ClassEntry {
-    ClassIds ids;
+    typelib::ClassIds ids;
     GUID classId;
     GUID interfaceId;
     // A new object of the class with one reference.
@@ -30,7 +30,7 @@ struct ClassEntry {
     IDispatch* (*wrap)(const ObjectRef& object);
 };
 
-template <class Target, const ClassIds& Ids, const dispatch::Table<Target>& (*Members)()>
+template <class Target, const typelib::ClassIds& Ids, const dispatch::Table<Target>& (*Members)()>
 struct ServerClass {
     static const MemberIndex<Target>& index() {
         static const MemberIndex<Target> members(Members());

@@ -12,7 +12,7 @@ ListView::ListView(ObjectRef control, WindowManager* windows, const Locale& loc)
 }
 
 Variant ListView::property(Object& object, std::u16string_view name) const {
-    return object.call(name, Object::CallKind::PropertyGet, {});
+    return object.call(name, CallKind::PropertyGet, {});
 }
 
 WindowHandle ListView::window() const {

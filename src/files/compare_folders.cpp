@@ -32,8 +32,8 @@ public:
         if (hidden_ || !form_)
             return;
         try {
-            if (toBoolean(form_->call(u"Visible", Object::CallKind::PropertyGet, {}), loc_)) {
-                form_->call(u"Hide", Object::CallKind::Method, {});
+            if (toBoolean(form_->call(u"Visible", CallKind::PropertyGet, {}), loc_)) {
+                form_->call(u"Hide", CallKind::Method, {});
                 hidden_ = true;
             }
         } catch (const std::exception&) {
@@ -45,7 +45,7 @@ public:
             return;
         hidden_ = false;
         try {
-            form_->call(u"Show", Object::CallKind::Method, {});
+            form_->call(u"Show", CallKind::Method, {});
         } catch (const std::exception&) {
         }
     }

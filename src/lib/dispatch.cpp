@@ -109,18 +109,30 @@ std::u16string typeLabel(VarType t) {
     if (isArrayType(t))
         return typeLabel(elementType(t)) + u"()";
     switch (t) {
-    case VarType::Integer: return u"Integer";
-    case VarType::Long: return u"Long";
-    case VarType::Single: return u"Single";
-    case VarType::Double: return u"Double";
-    case VarType::Currency: return u"Currency";
-    case VarType::Date: return u"Date";
-    case VarType::String: return u"String";
-    case VarType::Object: return u"Object";
-    case VarType::Boolean: return u"Boolean";
-    case VarType::Decimal: return u"Decimal";
-    case VarType::Byte: return u"Byte";
-    default: return u"Variant";
+    case VarType::Integer:
+        return u"Integer";
+    case VarType::Long:
+        return u"Long";
+    case VarType::Single:
+        return u"Single";
+    case VarType::Double:
+        return u"Double";
+    case VarType::Currency:
+        return u"Currency";
+    case VarType::Date:
+        return u"Date";
+    case VarType::String:
+        return u"String";
+    case VarType::Object:
+        return u"Object";
+    case VarType::Boolean:
+        return u"Boolean";
+    case VarType::Decimal:
+        return u"Decimal";
+    case VarType::Byte:
+        return u"Byte";
+    default:
+        return u"Variant";
     }
 }
 

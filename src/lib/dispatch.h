@@ -1,6 +1,6 @@
 // The member tables of the public classes and invoke-by-name over them. One row per member:
-// name, kind, parameters, result type and the function that calls the facade. The CLI, the COM
-// server and the member reference are all built on these rows.
+// dispatch id, name, kind, parameters, result type and the function that calls the member. The
+// CLI, the COM server, the type library and the member reference are all built on these rows.
 #pragma once
 
 #include "velkor6/locale.h"
@@ -14,14 +14,13 @@
 
 namespace velkor6::dispatch {
 
-enum class Kind { Method, PropertyGet, PropertyLet };
-
 struct Param {
     std::u16string name;
     VarType type = VarType::Variant; // VarType::Array | element for "x() As T"
     bool byRef = false;
     bool optional = false;
     Variant defaultValue; // for optional parameters; Missing when the member tests IsMissing
+    bool output = false;  // a ByRef parameter the member writes, not one it only reads
 };
 
 // The arguments of one call, already bound to the parameters and coerced to their types.
@@ -50,8 +49,11 @@ template <class Target>
 struct Member {
     using Fn = Variant (*)(Target&, Args&);
 
+    // The DISPID. Early-bound clients are compiled against it, so a member keeps its number for
+    // ever; a property's get and let rows share one.
+    std::int32_t id = 0;
     std::u16string name;
-    Kind kind = Kind::Method;
+    CallKind kind = CallKind::Method;
     std::vector<Param> params;       // for a property let, the last one is the assigned value
     VarType result = VarType::Empty; // Empty: no result (a Sub)
     Fn call = nullptr;
@@ -69,11 +71,19 @@ inline Param required(std::u16string name, VarType type) {
 inline Param optional(std::u16string name, VarType type, Variant defaultValue) {
     return Param{std::move(name), type, false, true, std::move(defaultValue)};
 }
+// A ByRef parameter the member only reads.
 inline Param byRef(std::u16string name, VarType type) {
     return Param{std::move(name), type, true, false, Variant()};
 }
 inline Param optionalByRef(std::u16string name, VarType type, Variant defaultValue) {
     return Param{std::move(name), type, true, true, std::move(defaultValue)};
+}
+// A ByRef parameter the member writes: one of its results.
+inline Param output(std::u16string name, VarType type) {
+    return Param{std::move(name), type, true, false, Variant(), true};
+}
+inline Param optionalOutput(std::u16string name, VarType type, Variant defaultValue) {
+    return Param{std::move(name), type, true, true, std::move(defaultValue), true};
 }
 
 // One argument as the caller passes it: a value it owns (written back when the parameter is
@@ -86,7 +96,7 @@ struct Argument {
 // The row a call by name reaches, or nullptr. A method call also finds a property get, as
 // late-bound clients send both flags together.
 template <class Target>
-const Member<Target>* find(const Table<Target>& table, std::u16string_view name, Kind kind);
+const Member<Target>* find(const Table<Target>& table, std::u16string_view name, CallKind kind);
 
 // The arguments of one call bound to a member's parameters: one coerced value per parameter,
 // and for each the caller's value it came from (nullptr when the argument was omitted).
@@ -108,32 +118,48 @@ Variant coerce(const Variant& v, VarType type, const Locale& loc);
 [[noreturn]] void throwNoSuchMember(std::u16string_view name);
 bool sameName(std::u16string_view a, std::u16string_view b);
 
+struct NoObserver {
+    void operator()(const Binding&) const {}
+};
+
+// The one way a member is called: binds the arguments, calls the member and writes its ByRef
+// parameters back into the caller's values. What a member wrote before raising stays written,
+// as with VB's own by-reference variables. `written` then sees the bound values, on success and
+// on error alike: the COM server copies them into the caller's VARIANTs, the CLI prints outputs.
+template <class Target, class Observer = NoObserver>
+Variant call(const Member<Target>& member, Target& target, std::span<Argument> args,
+             const Locale& loc, Observer&& written = {}) {
+    Binding binding = bindArguments(member.params, args, loc);
+    Args view(binding.values);
+    Variant result;
+    try {
+        result = member.call(target, view);
+    } catch (...) {
+        writeBack(member.params, binding);
+        written(binding);
+        throw;
+    }
+    writeBack(member.params, binding);
+    written(binding);
+    return result;
+}
+
 // Calls a member by name (case-insensitive). Raises 438 when no row has that name and kind.
 template <class Target>
-Variant invoke(const Table<Target>& table, Target& target, std::u16string_view name, Kind kind,
+Variant invoke(const Table<Target>& table, Target& target, std::u16string_view name, CallKind kind,
                std::span<Argument> args, const Locale& loc) {
     const Member<Target>* m = find(table, name, kind);
     if (m == nullptr)
         throwNoSuchMember(name);
-    Binding binding = bindArguments(m->params, args, loc);
-    Args view(binding.values);
-    // A ByRef argument is the caller's variable: what the member wrote before an error stays.
-    try {
-        Variant result = m->call(target, view);
-        writeBack(m->params, binding);
-        return result;
-    } catch (...) {
-        writeBack(m->params, binding);
-        throw;
-    }
+    return call(*m, target, args, loc);
 }
 
 template <class Target>
-const Member<Target>* find(const Table<Target>& table, std::u16string_view name, Kind kind) {
+const Member<Target>* find(const Table<Target>& table, std::u16string_view name, CallKind kind) {
     for (const auto& m : table) {
         if (!sameName(m.name, name))
             continue;
-        if (m.kind == kind || (kind == Kind::Method && m.kind == Kind::PropertyGet))
+        if (m.kind == kind || (kind == CallKind::Method && m.kind == CallKind::PropertyGet))
             return &m;
     }
     return nullptr;

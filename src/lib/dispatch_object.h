@@ -26,14 +26,14 @@ public:
         bound.reserve(args.size());
         for (Variant& v : args)
             bound.push_back({&v, {}});
-        Kind k = Kind::Method;
+        CallKind k = CallKind::Method;
         if (kind == CallKind::PropertyLet) {
-            k = Kind::PropertyLet;
+            k = CallKind::PropertyLet;
             const Member<Target>* m = find(table_, name, k);
             if (m != nullptr && !m->params.empty() && !bound.empty())
                 bound.back().name = m->params.back().name;
-        } else if (kind == CallKind::PropertyGet && find(table_, name, Kind::PropertyGet)) {
-            k = Kind::PropertyGet;
+        } else if (kind == CallKind::PropertyGet && find(table_, name, CallKind::PropertyGet)) {
+            k = CallKind::PropertyGet;
         }
         return invoke(table_, *target_, name, k, bound, target_->locale());
     }

@@ -22,8 +22,9 @@ std::vector<Param> settingLetParams(VarType valueType, Variant noDefault) {
 }
 
 void addSettingRows(Table<applib>& t) {
-    t.push_back({u"iniFile",
-                 Kind::PropertyGet,
+    t.push_back({1,
+                 u"iniFile",
+                 CallKind::PropertyGet,
                  {},
                  T::String,
                  [](applib& a, Args&) -> Variant { return a.iniFile(); },
@@ -31,7 +32,7 @@ void addSettingRows(Table<applib>& t) {
                  u"folder.",
                  u"Found once and then kept. When only the \"ostrak\" folder below the 32-bit "
                  u"system folder holds a file of that name, that one is used."});
-    t.push_back({u"stringValue", Kind::PropertyGet, settingParams(T::String, u""), T::String,
+    t.push_back({2, u"stringValue", CallKind::PropertyGet, settingParams(T::String, u""), T::String,
                  [](applib& a, Args& r) -> Variant {
                      return a.stringValue(r.str(0), r.str(1), r.str(2), r.b(3));
                  },
@@ -39,7 +40,8 @@ void addSettingRows(Table<applib>& t) {
                  u"A missing or empty setting gives default; with bAutoCreate the default is "
                  u"then stored. Names of sections and keys ignore letter case. At most 2047 "
                  u"characters are read."});
-    t.push_back({u"stringValue", Kind::PropertyLet, settingLetParams(T::String, u""), T::Empty,
+    t.push_back({2, u"stringValue", CallKind::PropertyLet, settingLetParams(T::String, u""),
+                 T::Empty,
                  [](applib& a, Args& r) -> Variant {
                      a.stringValueLet(r.str(0), r.str(1), r.str(4));
                      return {};
@@ -49,28 +51,31 @@ void addSettingRows(Table<applib>& t) {
                  u"default and bAutoCreate are ignored. An unchanged value is not written "
                  u"again. The file is replaced whole under a lock, so that other processes "
                  u"writing the same file keep their settings."});
-    t.push_back({u"longValue", Kind::PropertyGet, settingParams(T::Long, std::int32_t{0}), T::Long,
+    t.push_back({3, u"longValue", CallKind::PropertyGet, settingParams(T::Long, std::int32_t{0}),
+                 T::Long,
                  [](applib& a, Args& r) -> Variant {
                      return a.longValue(r.str(0), r.str(1), r.i32(2), r.b(3));
                  },
                  u"A setting as a Long.",
                  u"Text that is no number, or no Long, gives default (stored with "
                  u"bAutoCreate when the setting is missing or empty)."});
-    t.push_back({u"longValue", Kind::PropertyLet, settingLetParams(T::Long, std::int32_t{0}),
+    t.push_back({3, u"longValue", CallKind::PropertyLet, settingLetParams(T::Long, std::int32_t{0}),
                  T::Empty,
                  [](applib& a, Args& r) -> Variant {
                      a.longValueLet(r.str(0), r.str(1), r.i32(4));
                      return {};
                  },
                  u"Stores a Long as its decimal text.", u""});
-    t.push_back({u"boolValue", Kind::PropertyGet, settingParams(T::Boolean, false), T::Boolean,
+    t.push_back({4, u"boolValue", CallKind::PropertyGet, settingParams(T::Boolean, false),
+                 T::Boolean,
                  [](applib& a, Args& r) -> Variant {
                      return a.boolValue(r.str(0), r.str(1), r.b(2), r.b(3));
                  },
                  u"A setting as a Boolean.",
                  u"yes, true, 1, -1, wahr and ja (any letter case) are True; a missing or empty "
                  u"setting gives default (stored with bAutoCreate); any other text is False."});
-    t.push_back({u"boolValue", Kind::PropertyLet, settingLetParams(T::Boolean, false), T::Empty,
+    t.push_back({4, u"boolValue", CallKind::PropertyLet, settingLetParams(T::Boolean, false),
+                 T::Empty,
                  [](applib& a, Args& r) -> Variant {
                      a.boolValueLet(r.str(0), r.str(1), r.b(4));
                      return {};
@@ -80,8 +85,9 @@ void addSettingRows(Table<applib>& t) {
 
 void addWindowRows(Table<applib>& t) {
     t.push_back(
-        {u"loadColWidths",
-         Kind::Method,
+        {5,
+         u"loadColWidths",
+         CallKind::Method,
          {required(u"oListView", T::Object), required(u"sPropName", T::String),
           optional(u"lRegKey", T::Long, currentUserKey), optional(u"sRegSubKey", T::String, u"")},
          T::Empty,
@@ -93,8 +99,9 @@ void addWindowRows(Table<applib>& t) {
          u"The widths are pixels separated by \";\", from the first column on; an entry "
          u"that is no number leaves its column alone. lRegKey and sRegSubKey are not "
          u"used."});
-    t.push_back({u"saveColWidths",
-                 Kind::Method,
+    t.push_back({6,
+                 u"saveColWidths",
+                 CallKind::Method,
                  {required(u"oListView", T::Object), required(u"sPropName", T::String),
                   optional(u"lRegKey", T::Long, currentUserKey)},
                  T::Empty,
@@ -104,8 +111,9 @@ void addWindowRows(Table<applib>& t) {
                  },
                  u"Stores the list view's column widths under sPropName in section ColWidths.",
                  u"lRegKey is not used: the widths always go to the settings file."});
-    t.push_back({u"loadWindowPos",
-                 Kind::Method,
+    t.push_back({7,
+                 u"loadWindowPos",
+                 CallKind::Method,
                  {required(u"hwnd", T::Long), required(u"formname", T::String),
                   optional(u"ignoresize", T::Boolean, false)},
                  T::Empty,
@@ -118,8 +126,9 @@ void addWindowRows(Table<applib>& t) {
                  u"The rectangle is kept inside the work area of the nearest monitor. With "
                  u"ignoresize only the position is restored. Nothing moves when no rectangle "
                  u"was stored."});
-    t.push_back({u"saveWindowPos",
-                 Kind::Method,
+    t.push_back({8,
+                 u"saveWindowPos",
+                 CallKind::Method,
                  {required(u"hwnd", T::Long), required(u"formname", T::String)},
                  T::Empty,
                  [](applib& a, Args& r) -> Variant {
@@ -133,15 +142,17 @@ void addWindowRows(Table<applib>& t) {
 }
 
 void addLogRows(Table<applib>& t) {
-    t.push_back({u"logFile",
-                 Kind::PropertyGet,
+    t.push_back({9,
+                 u"logFile",
+                 CallKind::PropertyGet,
                  {},
                  T::String,
                  [](applib& a, Args&) -> Variant { return a.logFile(); },
                  u"The log file: the application name with \".log\" in the temporary folder.",
                  u""});
-    t.push_back({u"logAction",
-                 Kind::Method,
+    t.push_back({10,
+                 u"logAction",
+                 CallKind::Method,
                  {required(u"sMessage", T::String)},
                  T::Empty,
                  [](applib& a, Args& r) -> Variant {
@@ -152,8 +163,9 @@ void addLogRows(Table<applib>& t) {
                  u"log.",
                  u"One append per entry, so the log is complete after each call. An entry that "
                  u"cannot be written is lost without an error."});
-    t.push_back({u"logError",
-                 Kind::Method,
+    t.push_back({11,
+                 u"logError",
+                 CallKind::Method,
                  {required(u"lError", T::Long), required(u"sErrDesc", T::String),
                   required(u"sErrSrc", T::String), optional(u"bShowMsgBox", T::Boolean, false)},
                  T::Empty,
@@ -167,8 +179,9 @@ void addLogRows(Table<applib>& t) {
 }
 
 void addPathRows(Table<applib>& t) {
-    t.push_back({u"relativePath",
-                 Kind::Method,
+    t.push_back({12,
+                 u"relativePath",
+                 CallKind::Method,
                  {required(u"sFilename", T::String)},
                  T::String,
                  [](applib& a, Args& r) -> Variant { return a.relativePath(r.str(0)); },
@@ -176,15 +189,17 @@ void addPathRows(Table<applib>& t) {
                  u"In this order: %UserAppData%, %AppPath%, %AppDataFolder%, %SysDir%, "
                  u"%WinDir%, %CommonFiles%, %ProgramFiles%. Every occurrence is replaced, "
                  u"anywhere in the text and in any letter case."});
-    t.push_back({u"absolutePath",
-                 Kind::Method,
+    t.push_back({13,
+                 u"absolutePath",
+                 CallKind::Method,
                  {required(u"sFilename", T::String)},
                  T::String,
                  [](applib& a, Args& r) -> Variant { return a.absolutePath(r.str(0)); },
                  u"sFilename with the placeholders of relativePath replaced by their folders.",
                  u""});
-    t.push_back({u"editINIFile",
-                 Kind::Method,
+    t.push_back({14,
+                 u"editINIFile",
+                 CallKind::Method,
                  {},
                  T::Empty,
                  [](applib& a, Args&) -> Variant {
@@ -194,8 +209,9 @@ void addPathRows(Table<applib>& t) {
                  u"Opens the settings file in the editor registered for its type.",
                  u"Without a registered edit command the file is opened as a document. Failures "
                  u"are ignored."});
-    t.push_back({u"editLOGFile",
-                 Kind::Method,
+    t.push_back({15,
+                 u"editLOGFile",
+                 CallKind::Method,
                  {},
                  T::Empty,
                  [](applib& a, Args&) -> Variant {

@@ -5,8 +5,9 @@ namespace velkor6::dispatch {
 
 void addLanguageMembers(Table<applib>& t) {
     using T = VarType;
-    t.push_back({u"language",
-                 Kind::PropertyGet,
+    t.push_back({16,
+                 u"language",
+                 CallKind::PropertyGet,
                  {},
                  T::Integer,
                  [](applib& a, Args&) -> Variant { return a.language(); },
@@ -15,8 +16,9 @@ void addLanguageMembers(Table<applib>& t) {
                  u"Without that setting DefaultLanguage counts, and without that the system: "
                  u"German in Germany, else English. The number found is stored as Language and "
                  u"becomes the language of the library's dialogs."});
-    t.push_back({u"language",
-                 Kind::PropertyLet,
+    t.push_back({16,
+                 u"language",
+                 CallKind::PropertyLet,
                  {required(u"value", T::Integer)},
                  T::Empty,
                  [](applib& a, Args& r) -> Variant {

@@ -10,8 +10,6 @@
 namespace velkor6::resources {
 namespace {
 
-using Kind = Object::CallKind;
-
 std::u16string decimal(std::int16_t n) {
     return fromUtf8(std::to_string(n));
 }
@@ -37,14 +35,14 @@ std::vector<ObjectRef> selectForeign(Object& doc, std::u16string_view name,
     if (number)
         query += u"[@number=\"" + decimal(*number) + u"\"]";
     std::array<Variant, 1> args{Variant(std::move(query))};
-    const Variant list = doc.call(u"selectNodes", Kind::Method, args);
+    const Variant list = doc.call(u"selectNodes", CallKind::Method, args);
     if (!list.isObject() || !list.object())
         throw VbError(vberr::objectRequired);
-    const std::int32_t count = toLong(list.object()->call(u"length", Kind::PropertyGet, {}), loc);
+    const std::int32_t count = toLong(list.object()->call(u"length", CallKind::PropertyGet, {}), loc);
     std::vector<ObjectRef> items;
     for (std::int32_t i = 0; i < count; ++i) {
         std::array<Variant, 1> index{Variant(i)};
-        const Variant item = list.object()->call(u"item", Kind::PropertyGet, index);
+        const Variant item = list.object()->call(u"item", CallKind::PropertyGet, index);
         if (item.isObject() && item.object())
             items.push_back(item.object());
     }
@@ -86,7 +84,7 @@ std::u16string itemProp(const ObjectRef& node, std::u16string_view prop, const L
         if (const auto* own = dynamic_cast<const DomNode*>(node.get()))
             return own->node().attribute(prop).value_or(u"");
         std::array<Variant, 1> args{Variant(prop)};
-        const Variant value = node->call(u"getAttribute", Kind::Method, args);
+        const Variant value = node->call(u"getAttribute", CallKind::Method, args);
         return value.isNull() ? std::u16string() : toString(value, loc);
     } catch (const std::exception&) {
         return {};

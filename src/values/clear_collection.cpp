@@ -13,10 +13,10 @@ void clearCollection(ObjectRef& collection, bool setToNothing, const Locale& loc
             // From the last item back: one pass whatever the container, and no endless loop
             // should its Remove not shrink it.
             const std::int32_t count =
-                toLong(collection->call(u"Count", Object::CallKind::PropertyGet, {}), loc);
+                toLong(collection->call(u"Count", CallKind::PropertyGet, {}), loc);
             for (std::int32_t i = count; i >= 1; --i) {
                 Variant index(i);
-                collection->call(u"Remove", Object::CallKind::Method,
+                collection->call(u"Remove", CallKind::Method,
                                  std::span<Variant>(&index, 1));
             }
         }

@@ -11,7 +11,6 @@ namespace velkor6::com {
 namespace {
 
 using namespace test;
-using dispatch::Kind;
 
 // A class of its own with one member of each shape the server has to handle.
 struct Probe {
@@ -26,7 +25,7 @@ const dispatch::Table<Probe>& probeMembers() {
         // Join(a, Optional sep = "-", Optional ByRef length As Integer) = a & sep & a
         t.push_back(
             {u"Join",
-             Kind::Method,
+             CallKind::Method,
              {dispatch::required(u"sLeft", T::String), dispatch::optional(u"sSep", T::String, u"-"),
               dispatch::optionalByRef(u"iLength", T::Integer, std::int16_t{0})},
              T::String,
@@ -38,7 +37,7 @@ const dispatch::Table<Probe>& probeMembers() {
              u"",
              u""});
         t.push_back({u"Text",
-                     Kind::PropertyGet,
+                     CallKind::PropertyGet,
                      {dispatch::optional(u"lStart", T::Long, std::int32_t{1})},
                      T::String,
                      [](Probe& p, dispatch::Args& a) -> Variant {
@@ -47,7 +46,7 @@ const dispatch::Table<Probe>& probeMembers() {
                      u"",
                      u""});
         t.push_back({u"Text",
-                     Kind::PropertyLet,
+                     CallKind::PropertyLet,
                      {dispatch::optional(u"lStart", T::Long, std::int32_t{1}),
                       dispatch::required(u"sValue", T::String)},
                      T::Empty,
@@ -59,7 +58,7 @@ const dispatch::Table<Probe>& probeMembers() {
                      u"",
                      u""});
         t.push_back({u"Fail",
-                     Kind::Method,
+                     CallKind::Method,
                      {dispatch::required(u"lNumber", T::Long)},
                      T::Empty,
                      [](Probe&, dispatch::Args& a) -> Variant {
@@ -70,7 +69,7 @@ const dispatch::Table<Probe>& probeMembers() {
                      u"",
                      u""});
         t.push_back({u"Echo",
-                     Kind::Method,
+                     CallKind::Method,
                      {dispatch::required(u"vValue", T::Variant)},
                      T::Variant,
                      [](Probe&, dispatch::Args& a) -> Variant { return a[0]; },
@@ -262,7 +261,7 @@ TEST_F(DispatchObjectTest, ObjectsPassedInComeBackAsTheSameObject) {
     EXPECT_EQ(objectFor(V_DISPATCH(result.get())), before);
     probe_->text = u"changed";
     std::vector<Variant> none;
-    EXPECT_EQ(before->call(u"Text", Object::CallKind::PropertyGet, none), Variant(u"changed"));
+    EXPECT_EQ(before->call(u"Text", CallKind::PropertyGet, none), Variant(u"changed"));
 }
 
 TEST(DispatchObjectLifetime, ObjectsAreCountedUntilReleased) {

@@ -87,21 +87,21 @@ TEST(ForeignObject, MembersCallTheCallersObjectByName) {
         const ObjectRef object = objectFor(&host);
         EXPECT_EQ(object->typeName(), u"Object");
         std::vector<Variant> none;
-        EXPECT_EQ(object->call(u"PATH", Object::CallKind::PropertyGet, none),
+        EXPECT_EQ(object->call(u"PATH", CallKind::PropertyGet, none),
                   Variant(u"C:\\Apps\\Demo"));
         EXPECT_EQ(host.lastFlags, DISPATCH_PROPERTYGET);
 
         std::vector<Variant> assigned{Variant(u"D:\\Other")};
-        object->call(u"Path", Object::CallKind::PropertyLet, assigned);
+        object->call(u"Path", CallKind::PropertyLet, assigned);
         EXPECT_EQ(host.path, u"D:\\Other");
 
         std::vector<Variant> number{Variant(std::int32_t{21})};
-        EXPECT_EQ(object->call(u"Double", Object::CallKind::Method, number),
+        EXPECT_EQ(object->call(u"Double", CallKind::Method, number),
                   Variant(std::int32_t{42}));
         EXPECT_EQ(host.lastFlags, DISPATCH_METHOD);
 
         try {
-            object->call(u"Remove", Object::CallKind::Method, none);
+            object->call(u"Remove", CallKind::Method, none);
             ADD_FAILURE() << "Remove raises";
         } catch (const VbError& e) {
             EXPECT_EQ(e.number(), 9);
@@ -109,7 +109,7 @@ TEST(ForeignObject, MembersCallTheCallersObjectByName) {
             EXPECT_EQ(e.description(), u"Subscript out of range");
         }
         try {
-            object->call(u"Nope", Object::CallKind::Method, none);
+            object->call(u"Nope", CallKind::Method, none);
             ADD_FAILURE() << "an unknown member raises";
         } catch (const VbError& e) {
             EXPECT_EQ(e.number(), vberr::noSuchMember);

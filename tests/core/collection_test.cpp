@@ -51,19 +51,19 @@ TEST(Collection, ReachableByName) {
     Object& o = *c;
     EXPECT_EQ(o.typeName(), u"Collection");
     std::vector<Variant> add{Variant(42.0), Variant(u"answer")};
-    o.call(u"add", Object::CallKind::Method, add);
+    o.call(u"add", CallKind::Method, add);
     std::vector<Variant> addLast{Variant(u"x")};
-    o.call(u"Add", Object::CallKind::Method, addLast);
-    EXPECT_EQ(o.call(u"Count", Object::CallKind::PropertyGet, {}), Variant(std::int32_t{2}));
+    o.call(u"Add", CallKind::Method, addLast);
+    EXPECT_EQ(o.call(u"Count", CallKind::PropertyGet, {}), Variant(std::int32_t{2}));
     std::vector<Variant> key{Variant(u"ANSWER")};
-    EXPECT_EQ(o.call(u"Item", Object::CallKind::Method, key), Variant(42.0));
-    EXPECT_EQ(o.call(u"", Object::CallKind::PropertyGet, key), Variant(42.0));
+    EXPECT_EQ(o.call(u"Item", CallKind::Method, key), Variant(42.0));
+    EXPECT_EQ(o.call(u"", CallKind::PropertyGet, key), Variant(42.0));
     std::vector<Variant> first{Variant(std::int32_t{1})};
-    o.call(u"Remove", Object::CallKind::Method, first);
+    o.call(u"Remove", CallKind::Method, first);
     EXPECT_EQ(c->count(), 1);
-    EXPECT_EQ(errorOf([&] { o.call(u"Clear", Object::CallKind::Method, {}); }),
+    EXPECT_EQ(errorOf([&] { o.call(u"Clear", CallKind::Method, {}); }),
               vberr::noSuchMember);
-    EXPECT_EQ(errorOf([&] { o.call(u"Remove", Object::CallKind::Method, {}); }),
+    EXPECT_EQ(errorOf([&] { o.call(u"Remove", CallKind::Method, {}); }),
               vberr::argumentNotOptional);
 }
 

@@ -71,7 +71,7 @@ TEST_F(FilesOnWindows, SeparateFileThroughTheDispatchTable) {
     Variant record; // the caller's variable, filled with a new typFileInfo
     std::vector<dispatch::Argument> args = {{&name, {}}, {&record, {}}};
     const Variant ok = dispatch::invoke(dispatch::libMembers(), l, u"vkrSeparateFile",
-                                        dispatch::Kind::Method, args, l.locale());
+                                        CallKind::Method, args, l.locale());
     EXPECT_EQ(ok, Variant(true));
     ASSERT_TRUE(record.isObject());
     auto* info = dynamic_cast<RecordObject*>(record.object().get());
@@ -79,13 +79,13 @@ TEST_F(FilesOnWindows, SeparateFileThroughTheDispatchTable) {
     EXPECT_EQ(info->typeName(), u"typFileInfo");
     ASSERT_EQ(info->fields().size(), 5u);
     EXPECT_EQ(info->fields()[0].name, u"lpDrive");
-    EXPECT_EQ(record.object()->call(u"lpExt", Object::CallKind::PropertyGet, {}), Variant(u"log"));
+    EXPECT_EQ(record.object()->call(u"lpExt", CallKind::PropertyGet, {}), Variant(u"log"));
 
     // A record passed in is filled in place.
     const ObjectRef same = record.object();
     Variant other(u"D:\\x.txt");
     args = {{&other, {}}, {&record, {}}};
-    dispatch::invoke(dispatch::libMembers(), l, u"vkrSeparateFile", dispatch::Kind::Method, args,
+    dispatch::invoke(dispatch::libMembers(), l, u"vkrSeparateFile", CallKind::Method, args,
                      l.locale());
     EXPECT_EQ(record.object(), same);
     EXPECT_EQ(*info->field(u"LPDRIVE"), Variant(u"D"));

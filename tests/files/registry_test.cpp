@@ -256,7 +256,7 @@ TEST(RegistryMembers, ReachableByName) {
     Variant path(u"Software\\Velkor Test\\Pair");
     Variant keys = Variant::array({});
     std::vector<dispatch::Argument> args = {{&root, {}}, {&path, {}}, {&keys, {}}};
-    dispatch::invoke(table, l, u"REGFINDKEYS", dispatch::Kind::Method, args, l.locale());
+    dispatch::invoke(table, l, u"REGFINDKEYS", CallKind::Method, args, l.locale());
     ASSERT_TRUE(keys.isArray());
     EXPECT_EQ(texts(keys.array()), (std::vector<std::u16string>{u"Alpha", u"beta"}));
 
@@ -264,10 +264,10 @@ TEST(RegistryMembers, ReachableByName) {
     Variant fallback(std::int16_t{9});
     std::vector<dispatch::Argument> named = {
         {&root, {}}, {&path, {}}, {&name, {}}, {&fallback, u"lDefaultValue"}};
-    EXPECT_EQ(dispatch::invoke(table, l, u"regGetLong", dispatch::Kind::Method, named, l.locale()),
+    EXPECT_EQ(dispatch::invoke(table, l, u"regGetLong", CallKind::Method, named, l.locale()),
               Variant(std::int32_t{9}));
     named.pop_back();
-    EXPECT_EQ(dispatch::invoke(table, l, u"regGetValue", dispatch::Kind::Method, named, l.locale()),
+    EXPECT_EQ(dispatch::invoke(table, l, u"regGetValue", CallKind::Method, named, l.locale()),
               Variant(u""));
 }
 

@@ -92,7 +92,7 @@ TEST(PredefinedExpressions, RowsWriteBackTheText) {
     Variant text(u"a%X%b"), pairs = Variant::array({Variant(u"x"), Variant(u"-")});
     std::vector<dispatch::Argument> args{{&text, u""}, {&pairs, u""}};
     dispatch::invoke(dispatch::libMembers(), l, u"prfReplacePredefinedExpressions",
-                     dispatch::Kind::Method, args, l.locale());
+                     CallKind::Method, args, l.locale());
     EXPECT_EQ(text, Variant(u"a-b"));
 }
 

@@ -27,7 +27,7 @@ protected:
 
     Variant initApp(Variant host, Variant name = u"Sales") {
         std::vector<Argument> args{{&host, u""}, {&name, u""}};
-        return invoke(libMembers(), target, u"vkrInitApp", Kind::Method, args, target.locale());
+        return invoke(libMembers(), target, u"vkrInitApp", CallKind::Method, args, target.locale());
     }
 
     int errorOf(Variant host) {
@@ -48,20 +48,20 @@ TEST_F(ApplibRows, InitAppReturnsAContextThatAnswersByName) {
     ASSERT_TRUE(result.isObject());
     Object& app = *result.object();
     EXPECT_EQ(app.typeName(), u"applib");
-    EXPECT_EQ(app.call(u"INIFILE", Object::CallKind::PropertyGet, {}),
+    EXPECT_EQ(app.call(u"INIFILE", CallKind::PropertyGet, {}),
               Variant(u"C:\\Apps\\Sales\\Sales.ini"));
 
     // A property let assigns its last argument even when optional parameters are left out.
     std::vector<Variant> let{u"Db", u"File", u"C:\\Apps\\Sales\\x.mdb"};
-    app.call(u"stringValue", Object::CallKind::PropertyLet, let);
+    app.call(u"stringValue", CallKind::PropertyLet, let);
     EXPECT_EQ(fp.files.readFile(u"C:\\Apps\\Sales\\Sales.ini").value(),
               "[Application]\r\nLanguage=2\r\n[Db]\r\nFile=%AppPath%\\x.mdb\r\n");
     std::vector<Variant> get{u"Db", u"File"};
-    EXPECT_EQ(app.call(u"stringValue", Object::CallKind::PropertyGet, get),
+    EXPECT_EQ(app.call(u"stringValue", CallKind::PropertyGet, get),
               Variant(u"C:\\Apps\\Sales\\x.mdb"));
     std::vector<Variant> typed{u"Db", u"Count", u"12", true};
-    EXPECT_EQ(app.call(u"longValue", Object::CallKind::Method, typed), Variant(std::int32_t{12}));
-    EXPECT_EQ(app.call(u"language", Object::CallKind::PropertyGet, {}), Variant(std::int16_t{2}));
+    EXPECT_EQ(app.call(u"longValue", CallKind::Method, typed), Variant(std::int32_t{12}));
+    EXPECT_EQ(app.call(u"language", CallKind::PropertyGet, {}), Variant(std::int16_t{2}));
 }
 
 TEST_F(ApplibRows, InitAppNeedsAnApplicationObject) {

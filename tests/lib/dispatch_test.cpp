@@ -15,8 +15,8 @@ struct Recorder {
 Table<Recorder> table() {
     using T = VarType;
     Table<Recorder> t;
-    t.push_back({u"Join",
-                 Kind::Method,
+    t.push_back({1, u"Join",
+                 CallKind::Method,
                  {required(u"sText", T::String), optional(u"iCount", T::Integer, std::int16_t{2}),
                   optionalByRef(u"sOut", T::String, u"")},
                  T::String,
@@ -30,15 +30,15 @@ Table<Recorder> table() {
                  },
                  u"Repeats a text.",
                  u""});
-    t.push_back({u"Value",
-                 Kind::PropertyGet,
+    t.push_back({2, u"Value",
+                 CallKind::PropertyGet,
                  {required(u"iIndex", T::Long)},
                  T::Long,
                  [](Recorder&, Args& a) -> Variant { return a.i32(0) * 2; },
                  u"",
                  u""});
-    t.push_back({u"Value",
-                 Kind::PropertyLet,
+    t.push_back({2, u"Value",
+                 CallKind::PropertyLet,
                  {required(u"iIndex", T::Long), required(u"vNew", T::Variant)},
                  T::Empty,
                  [](Recorder& r, Args& a) -> Variant {
@@ -47,8 +47,8 @@ Table<Recorder> table() {
                  },
                  u"",
                  u""});
-    t.push_back({u"Sum",
-                 Kind::Method,
+    t.push_back({3, u"Sum",
+                 CallKind::Method,
                  {byRef(u"vList", T::Array | T::Double)},
                  T::Double,
                  [](Recorder&, Args& a) -> Variant {
@@ -65,7 +65,7 @@ Table<Recorder> table() {
 }
 
 Variant call(Table<Recorder>& t, Recorder& r, std::u16string_view name, std::vector<Argument> args,
-             Kind kind = Kind::Method) {
+             CallKind kind = CallKind::Method) {
     return invoke(t, r, name, kind, args, Locale::englishUS());
 }
 
@@ -130,7 +130,7 @@ TEST(Dispatch, PropertiesAndArrays) {
     Variant index(std::int16_t{21}), value(u"v");
     // A method call reaches a property get, as late-bound clients send both flags.
     EXPECT_EQ(call(t, r, u"value", {{&index, u""}}), Variant(42));
-    EXPECT_EQ(call(t, r, u"Value", {{&index, u""}, {&value, u""}}, Kind::PropertyLet), Variant());
+    EXPECT_EQ(call(t, r, u"Value", {{&index, u""}, {&value, u""}}, CallKind::PropertyLet), Variant());
     EXPECT_EQ(r.seen[0], Variant(21));
     EXPECT_EQ(r.seen[1], Variant(u"v"));
 

@@ -12,7 +12,7 @@ class TextRows : public ::testing::Test {
 protected:
     // Arguments as (name, value) pairs; an empty name passes the value by position.
     Variant call(std::u16string_view name, std::vector<std::pair<std::u16string, Variant*>> given,
-                 Kind kind = Kind::Method) {
+                 CallKind kind = CallKind::Method) {
         std::vector<Argument> args;
         for (auto& [argName, value] : given)
             args.push_back({value, argName});
@@ -84,16 +84,16 @@ TEST_F(TextRows, CountOverflowReachesTheCaller) {
 
 TEST_F(TextRows, MidReadsAndAssigns) {
     Variant source(u"abcdef"), start(std::int32_t{2}), length(std::int32_t{2}), value(u"XYZ");
-    EXPECT_EQ(call(u"vkrMid", {{u"", &source}, {u"", &start}}, Kind::PropertyGet),
+    EXPECT_EQ(call(u"vkrMid", {{u"", &source}, {u"", &start}}, CallKind::PropertyGet),
               Variant(u"bcdef"));
     EXPECT_EQ(call(u"vkrMid", {{u"", &source}, {u"", &start}, {u"", &length}}), Variant(u"bc"));
     EXPECT_EQ(
-        call(u"vkrMid", {{u"", &source}, {u"", &start}, {u"vNewValue", &value}}, Kind::PropertyLet),
+        call(u"vkrMid", {{u"", &source}, {u"", &start}, {u"vNewValue", &value}}, CallKind::PropertyLet),
         Variant());
     EXPECT_EQ(source, Variant(u"aXYZef"));
     EXPECT_EQ(call(u"vkrMid",
                    {{u"", &source}, {u"", &start}, {u"", &length}, {u"vNewValue", &value}},
-                   Kind::PropertyLet),
+                   CallKind::PropertyLet),
               Variant());
     EXPECT_EQ(source, Variant(u"aXYZZef"));
 }

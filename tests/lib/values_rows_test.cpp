@@ -15,7 +15,7 @@ protected:
         std::vector<Argument> args;
         for (Variant& v : values)
             args.push_back({&v, u""});
-        return invoke(libMembers(), target, name, Kind::Method, args, target.locale());
+        return invoke(libMembers(), target, name, CallKind::Method, args, target.locale());
     }
     Variant call(std::u16string_view name, std::vector<Variant>&& values) {
         return call(name, values);

@@ -15,7 +15,7 @@ protected:
         std::vector<Argument> args;
         for (Variant& v : values)
             args.push_back({&v, u""});
-        return invoke(libMembers(), target, u"vkrGlobalVar", Kind::Method, args, target.locale());
+        return invoke(libMembers(), target, u"vkrGlobalVar", CallKind::Method, args, target.locale());
     }
     std::u16string text(std::u16string_view name, std::u16string_view s) {
         return call({Variant(name), Variant(s)}).string();

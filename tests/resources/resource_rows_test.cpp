@@ -21,7 +21,7 @@ protected:
             Variant(u"<resources><item name=\"x\" number=\"0\" text=\"zero\"/>"
                     u"<item name=\"x\" number=\"1\" text=\"one\"/>"
                     u"</resources>")};
-        doc->call(u"loadXML", Object::CallKind::Method, text);
+        doc->call(u"loadXML", CallKind::Method, text);
         p.files.addFolder(u"C:\\App");
     }
 
@@ -29,7 +29,7 @@ protected:
         std::vector<Argument> args;
         for (Variant& v : values)
             args.push_back({&v, {}});
-        return invoke(libMembers(), l, name, Kind::Method, args, l.locale());
+        return invoke(libMembers(), l, name, CallKind::Method, args, l.locale());
     }
 
     lib l{p.module};
@@ -56,8 +56,8 @@ TEST_F(ResourceRows, ResourceLibrariesAreReachedThroughTheContext) {
     const ObjectRef context = applibObject(app);
 
     std::array<Variant, 2> args{Variant(std::int32_t{1}), Variant(u"XML")};
-    EXPECT_EQ(context->call(u"loadRes", Object::CallKind::Method, args), Variant(u"<r/>"));
-    const Variant list = context->call(u"getLanguagesList", Object::CallKind::Method, {});
+    EXPECT_EQ(context->call(u"loadRes", CallKind::Method, args), Variant(u"<r/>"));
+    const Variant list = context->call(u"getLanguagesList", CallKind::Method, {});
     ASSERT_TRUE(list.isArray());
     EXPECT_EQ(list.array().items, std::vector<Variant>{Variant(u"2;English;EN")});
 

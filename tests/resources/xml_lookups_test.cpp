@@ -55,7 +55,7 @@ protected:
             return;
         own = newDomDocument(*p.module->platform().xml);
         std::array<Variant, 1> text{Variant(sample)};
-        ASSERT_TRUE(own->call(u"loadXML", Object::CallKind::Method, text).boolean());
+        ASSERT_TRUE(own->call(u"loadXML", CallKind::Method, text).boolean());
         foreign = std::make_shared<ForeignObject>(own, queries);
     }
 
@@ -154,22 +154,21 @@ TEST_F(XmlLookups, FillsTabStripsWithCaptions) {
 }
 
 TEST_F(XmlLookups, DocumentsAnswerTheirDomMembers) {
-    using Kind = Object::CallKind;
     std::array<Variant, 1> arg{Variant(u"/resources/item[@name='x']")};
-    const Variant list = own->call(u"selectNodes", Kind::Method, arg);
-    EXPECT_EQ(list.object()->call(u"Length", Kind::PropertyGet, {}), Variant(std::int32_t{3}));
+    const Variant list = own->call(u"selectNodes", CallKind::Method, arg);
+    EXPECT_EQ(list.object()->call(u"Length", CallKind::PropertyGet, {}), Variant(std::int32_t{3}));
     std::array<Variant, 1> index{Variant(std::int16_t{3})};
-    EXPECT_FALSE(list.object()->call(u"item", Kind::PropertyGet, index).object());
+    EXPECT_FALSE(list.object()->call(u"item", CallKind::PropertyGet, index).object());
 
-    const Variant node = own->call(u"selectSingleNode", Kind::Method, arg);
+    const Variant node = own->call(u"selectSingleNode", CallKind::Method, arg);
     std::array<Variant, 1> attribute{Variant(u"missing")};
-    EXPECT_TRUE(node.object()->call(u"getAttribute", Kind::Method, attribute).isNull());
-    EXPECT_EQ(node.object()->call(u"nodeName", Kind::PropertyGet, {}), Variant(u"item"));
+    EXPECT_TRUE(node.object()->call(u"getAttribute", CallKind::Method, attribute).isNull());
+    EXPECT_EQ(node.object()->call(u"nodeName", CallKind::PropertyGet, {}), Variant(u"item"));
 
     std::array<Variant, 1> bad{Variant(u"/resources/item[")};
-    EXPECT_THROW(own->call(u"selectNodes", Kind::Method, bad), VbError);
+    EXPECT_THROW(own->call(u"selectNodes", CallKind::Method, bad), VbError);
     std::array<Variant, 1> notXml{Variant(u"<a>")};
-    EXPECT_FALSE(own->call(u"loadXML", Kind::Method, notXml).boolean());
+    EXPECT_FALSE(own->call(u"loadXML", CallKind::Method, notXml).boolean());
     EXPECT_EQ(xmlRes(own, u"x", -1, loc), u"");
 }
 

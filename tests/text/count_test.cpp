@@ -1,7 +1,7 @@
 #include "fake/error_of.h"
 #include "text/random_text.h"
 #include "text/reference_loops.h"
-#include "text/text_members.h"
+#include "text/text_lib.h"
 #include "text/text_toolkit.h"
 #include "velkor6/vb_error.h"
 
@@ -12,42 +12,43 @@ namespace velkor6::text {
 namespace {
 
 TEST(TextCount, CountsNonOverlappingOccurrencesOfEachAlternative) {
-    EXPECT_EQ(vkrCountSubString(u"aaaa", u"aa"), 2);
-    EXPECT_EQ(vkrCountSubString(u"abc", u"a|b"), 2);
-    EXPECT_EQ(vkrCountSubString(u"abc", u"ab|b"), 2); // counted once per alternative
-    EXPECT_EQ(vkrCountSubString(u"", u"a"), 0);
-    EXPECT_EQ(vkrCountSubString(u"abc", u""), 0);
-    EXPECT_EQ(vkrCountSubString(u"aAa", u"a", 2), 2);
-    EXPECT_EQ(vkrCountSubString(u"aAa", u"a", 1, false), 2);
-    EXPECT_EQ(vkrCountSubString(u"aaa", u"a", 0), 0); // the search traps a start below 1
+    EXPECT_EQ(members().vkrCountSubString(u"aaaa", u"aa"), 2);
+    EXPECT_EQ(members().vkrCountSubString(u"abc", u"a|b"), 2);
+    EXPECT_EQ(members().vkrCountSubString(u"abc", u"ab|b"), 2); // counted once per alternative
+    EXPECT_EQ(members().vkrCountSubString(u"", u"a"), 0);
+    EXPECT_EQ(members().vkrCountSubString(u"abc", u""), 0);
+    EXPECT_EQ(members().vkrCountSubString(u"aAa", u"a", 2), 2);
+    EXPECT_EQ(members().vkrCountSubString(u"aAa", u"a", 1, false), 2);
+    EXPECT_EQ(members().vkrCountSubString(u"aaa", u"a", 0), 0); // the search traps a start below 1
     // An empty alternative is found at the same place again and again.
-    EXPECT_EQ(errorOf([] { vkrCountSubString(u"abc", u"b|"); }), vberr::overflow);
-    EXPECT_EQ(vkrCountSubString(u"abc", u"b|", 4), 0);
+    EXPECT_EQ(errorOf([] { members().vkrCountSubString(u"abc", u"b|"); }), vberr::overflow);
+    EXPECT_EQ(members().vkrCountSubString(u"abc", u"b|", 4), 0);
     EXPECT_EQ(errorOf([] { countSubString(u"abc", u"|", 1, Compare::Text); }), vberr::overflow);
 }
 
 TEST(TextCount, LeavesOutOccurrencesInsideSignPairs) {
     const std::u16string_view sql = u"a = 'a' AND (a) OR \"a\"";
-    EXPECT_EQ(vkrCountSubStringExt(sql, u"a"), 5);
-    EXPECT_EQ(vkrCountSubStringExt(sql, u"a", 1, true, u"''"), 4);
-    EXPECT_EQ(vkrCountSubStringExt(sql, u"a", 1, true, u"''|()|\"\""), 2);
-    EXPECT_EQ(vkrCountSubStringExt(sql, u"a", 1, true, u"'|x()"), 5); // not pairs
+    EXPECT_EQ(members().vkrCountSubStringExt(sql, u"a"), 5);
+    EXPECT_EQ(members().vkrCountSubStringExt(sql, u"a", 1, true, u"''"), 4);
+    EXPECT_EQ(members().vkrCountSubStringExt(sql, u"a", 1, true, u"''|()|\"\""), 2);
+    EXPECT_EQ(members().vkrCountSubStringExt(sql, u"a", 1, true, u"'|x()"), 5); // not pairs
 }
 
 TEST(TextCount, OverflowsWhereAnIntegerPositionOrCountWould) {
     const std::u16string many(32766, u'a');
-    EXPECT_EQ(vkrCountSubString(many, u"a", 2), 32765);
+    EXPECT_EQ(members().vkrCountSubString(many, u"a", 2), 32765);
     // The last occurrence ends at 32767: the position after it no longer fits.
-    EXPECT_EQ(errorOf([&] { vkrCountSubString(many + u"a", u"a"); }), vberr::overflow);
+    EXPECT_EQ(errorOf([&] { members().vkrCountSubString(many + u"a", u"a"); }), vberr::overflow);
     EXPECT_EQ(countSubString(many + u"aa", u"a", 1, Compare::Text), 32768);
     // The sum over the alternatives is one Integer too.
-    EXPECT_EQ(errorOf([] { vkrCountSubString(std::u16string(20000, u'a'), u"a|A"); }),
+    EXPECT_EQ(errorOf([] { members().vkrCountSubString(std::u16string(20000, u'a'), u"a|A"); }),
               vberr::overflow);
     std::u16string text(32764, u'x');
-    EXPECT_EQ(vkrCountSubString(text + u"ab" + u"xxxx", u"ab"), 1);
-    EXPECT_EQ(errorOf([&] { vkrCountSubString(text + u"xab" + u"xxxx", u"ab"); }), vberr::overflow);
+    EXPECT_EQ(members().vkrCountSubString(text + u"ab" + u"xxxx", u"ab"), 1);
+    EXPECT_EQ(errorOf([&] { members().vkrCountSubString(text + u"xab" + u"xxxx", u"ab"); }),
+              vberr::overflow);
     // Occurrences beyond the Integer range are not found, without an error.
-    EXPECT_EQ(vkrCountSubString(text + u"xxxxxxab", u"ab"), 0);
+    EXPECT_EQ(members().vkrCountSubString(text + u"xxxxxxab", u"ab"), 0);
 }
 
 TEST(TextCount, ExtAgreesWithTheStepByStepLoop) {

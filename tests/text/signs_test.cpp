@@ -1,4 +1,4 @@
-#include "text/text_members.h"
+#include "text/text_lib.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -28,7 +28,7 @@ TEST(TextSigns, TellsWhetherATermLiesInsideASignPair) {
         {u"", u"()", 1, 1, false},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(vkrIsInSigns(c.source, c.signs, c.start, c.length), c.expected)
+        EXPECT_EQ(members().vkrIsInSigns(c.source, c.signs, c.start, c.length), c.expected)
             << std::string(c.source.begin(), c.source.end()) << " " << c.start;
 }
 
@@ -55,15 +55,15 @@ TEST(TextSigns, RecognisesNumericWordsAndFormatMasks) {
         {u"x (1) y", 4, 0, en, false},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(vkrIsNumericWord(c.source, c.start, c.length, c.locale), c.expected)
+        EXPECT_EQ(members(c.locale).vkrIsNumericWord(c.source, c.start, c.length), c.expected)
             << std::string(c.source.begin(), c.source.end());
 }
 
 TEST(TextMid, ReadsAndRewritesLikeMid) {
-    EXPECT_EQ(vkrMid(u"abcdef", 2, 3), u"bcd");
-    EXPECT_EQ(vkrMid(u"abcdef", 5), u"ef");
-    EXPECT_EQ(vkrMid(u"abcdef", 0), u"");
-    EXPECT_EQ(vkrMid(u"abcdef", 2, -2), u"");
+    EXPECT_EQ(members().vkrMid(u"abcdef", 2, 3), u"bcd");
+    EXPECT_EQ(members().vkrMid(u"abcdef", 5), u"ef");
+    EXPECT_EQ(members().vkrMid(u"abcdef", 0), u"");
+    EXPECT_EQ(members().vkrMid(u"abcdef", 2, -2), u"");
     struct Case {
         std::int32_t start, length;
         std::u16string_view value, expected;
@@ -74,7 +74,7 @@ TEST(TextMid, ReadsAndRewritesLikeMid) {
     };
     for (const Case& c : cases) {
         std::u16string source = u"abcdef";
-        vkrMidLet(source, c.start, c.length, c.value);
+        members().vkrMidLet(source, c.start, c.length, c.value);
         EXPECT_EQ(source, c.expected) << c.start << " " << c.length;
     }
 }

@@ -15,8 +15,6 @@
 namespace velkor6::cli {
 namespace {
 
-using dispatch::Kind;
-
 std::ostream& operator<<(std::ostream& os, std::u16string_view s) {
     return os << toUtf8(s);
 }
@@ -69,12 +67,13 @@ void printError(const VbError& e, std::ostream& err) {
     err << "error " << e.number() << ": " << e.description() << " (" << e.source() << ")\n";
 }
 
-// Calls one member with parsed arguments and prints the result and every ByRef parameter.
+// Calls one member with parsed arguments; prints the result, then every output parameter (a
+// ByRef parameter the member writes), changed or not.
 template <class Target>
 void callAndPrint(const dispatch::Table<Target>& table, Target& target, const Options& options,
                   const std::u16string& name, std::vector<ParsedArgument>& parsed,
                   std::optional<Variant> assigned, std::ostream& out) {
-    const Kind kind = assigned ? Kind::PropertyLet : Kind::Method;
+    const CallKind kind = assigned ? CallKind::PropertyLet : CallKind::Method;
     const auto* member = dispatch::find(table, name, kind);
     if (member == nullptr)
         dispatch::throwNoSuchMember(name);
@@ -86,23 +85,16 @@ void callAndPrint(const dispatch::Table<Target>& table, Target& target, const Op
     for (auto& p : parsed)
         args.push_back({&p.value, p.name});
     const Locale& loc = target.locale();
-    dispatch::Binding binding = dispatch::bindArguments(member->params, args, loc);
-    // A ByRef parameter is shown when the call changed it; inputs that merely pass by
-    // reference (arrays to read, positions) would only repeat the command line.
-    std::vector<Variant> before(binding.values.size());
-    for (std::size_t i = 0; i < member->params.size(); ++i) {
-        if (member->params[i].byRef)
-            before[i] = binding.values[i];
-    }
-    dispatch::Args view(binding.values);
-    const Variant result = member->call(target, view);
-    dispatch::writeBack(member->params, binding);
+    std::vector<Variant> outputs;
+    const Variant result =
+        dispatch::call(*member, target, args, loc,
+                       [&](const dispatch::Binding& binding) { outputs = binding.values; });
 
     if (member->result != VarType::Empty)
         out << (options.typed ? typedLiteral(result) : printText(result, loc)) << '\n';
     for (std::size_t i = 0; i < member->params.size(); ++i) {
-        if (member->params[i].byRef && !(binding.values[i] == before[i]))
-            printNamed(member->params[i].name, binding.values[i], out);
+        if (member->params[i].output)
+            printNamed(member->params[i].name, outputs[i], out);
     }
 }
 
@@ -141,9 +133,9 @@ std::u16string signature(const dispatch::Member<Target>& m) {
 template <class Target>
 std::u16string kindLabel(const dispatch::Member<Target>& m) {
     switch (m.kind) {
-    case Kind::PropertyGet:
+    case CallKind::PropertyGet:
         return u"Property Get";
-    case Kind::PropertyLet:
+    case CallKind::PropertyLet:
         return u"Property Let";
     default:
         return m.result == VarType::Empty ? u"Sub" : u"Function";
@@ -269,7 +261,7 @@ void listMembers(const dispatch::Table<Target>& table, std::u16string_view prefi
             continue;
         }
         out << "\n### " << m.name;
-        if (m.kind != Kind::Method)
+        if (m.kind != CallKind::Method)
             out << " (" << kindLabel(m) << ")";
         out << "\n\n`" << kindLabel(m) << ' ' << signature(m) << "`\n";
         if (!m.summary.empty())

@@ -1,6 +1,6 @@
 // velkor6: calls the library's members by name from the command line.
 #include "commands.h"
-#include "idl.h"
+#include "lib/idl.h"
 #include "lzw_command.h"
 
 #include <iostream>
@@ -63,7 +63,7 @@ int main(int argc, char** argv) {
         return velkor6::cli::runCall(options, rest, std::cout, std::cerr);
     if (command == "members") {
         if (rest.size() == 1 && rest[0] == "--idl") {
-            velkor6::cli::writeIdl(std::cout);
+            velkor6::typelib::writeIdl(std::cout);
             return 0;
         }
         const bool markdown = rest.size() == 1 && rest[0] == "--markdown";

@@ -1,5 +1,38 @@
-// Rows of the registry readers.
+// Registry reading: the `lib` members and their rows in the member table.
+#include "files/registry.h"
+
 #include "lib/lib_members.h"
+
+namespace velkor6 {
+
+Variant lib::regGetValue(std::int32_t lRegKey, std::u16string_view sRegSubKey,
+                         std::u16string_view sValueName, const Variant& vDefaultValue) {
+    return files::regGetValue(module().platform().registry.get(), lRegKey, sRegSubKey, sValueName,
+                              vDefaultValue, locale());
+}
+
+std::int32_t lib::regGetLong(std::int32_t lRegKey, std::u16string_view sRegSubKey,
+                             std::u16string_view sValueName, std::int32_t lDefaultValue) {
+    return files::regGetLong(module().platform().registry.get(), lRegKey, sRegSubKey, sValueName,
+                             lDefaultValue, locale());
+}
+
+std::u16string lib::regGetString(std::int32_t lRegKey, std::u16string_view sRegSubKey,
+                                 std::u16string_view sValueName,
+                                 std::u16string_view sDefaultValue) {
+    return files::regGetString(module().platform().registry.get(), lRegKey, sRegSubKey, sValueName,
+                               sDefaultValue, locale());
+}
+
+std::int32_t lib::regSubKeyCount(std::int32_t lRegKey, std::u16string_view sRegSubKey) {
+    return files::regSubKeyCount(module().platform().registry.get(), lRegKey, sRegSubKey);
+}
+
+void lib::regFindKeys(std::int32_t lRegKey, std::u16string_view sRegSubKey, VariantArray& sKeys) {
+    files::regFindKeys(module().platform().registry.get(), lRegKey, sRegSubKey, sKeys);
+}
+
+} // namespace velkor6
 
 namespace velkor6::dispatch {
 namespace {
@@ -32,8 +65,9 @@ void addRegistryMembers(Table<lib>& t) {
     const Param valueName = required(u"sValueName", T::String);
 
     t.push_back(
-        {u"regGetValue",
-         Kind::Method,
+        {51,
+         u"regGetValue",
+         CallKind::Method,
          {key, subKey, valueName, optional(u"vDefaultValue", T::Variant, Variant::missing())},
          T::Variant,
          [](lib& l, Args& a) -> Variant {
@@ -49,8 +83,9 @@ void addRegistryMembers(Table<lib>& t) {
                   u"other type (multi-string, 64-bit numbers ...) gives \"\" and ignores "
                   u"vDefaultValue. Expandable strings are not expanded.",
                   posixRegistry)});
-    t.push_back({u"regGetLong",
-                 Kind::Method,
+    t.push_back({52,
+                 u"regGetLong",
+                 CallKind::Method,
                  {key, subKey, valueName, optional(u"lDefaultValue", T::Long, std::int32_t{0})},
                  T::Long,
                  [](lib& l, Args& a) -> Variant {
@@ -61,8 +96,9 @@ void addRegistryMembers(Table<lib>& t) {
                  withNote(u"Reads like regGetValue with lDefaultValue as the default, then "
                           u"converts like vkrCVal with the Long type: \"\" and text that is "
                           u"not a number give 0.")});
-    t.push_back({u"regGetString",
-                 Kind::Method,
+    t.push_back({53,
+                 u"regGetString",
+                 CallKind::Method,
                  {key, subKey, valueName, optional(u"sDefaultValue", T::String, u"")},
                  T::String,
                  [](lib& l, Args& a) -> Variant {
@@ -72,8 +108,9 @@ void addRegistryMembers(Table<lib>& t) {
                  u"it cannot be read.",
                  withNote(u"Reads like regGetValue with sDefaultValue as the default. An "
                           u"existing empty value gives \"\", not the default.")});
-    t.push_back({u"regSubKeyCount",
-                 Kind::Method,
+    t.push_back({54,
+                 u"regSubKeyCount",
+                 CallKind::Method,
                  {key, subKey},
                  T::Long,
                  [](lib& l, Args& a) -> Variant { return l.regSubKeyCount(a.i32(0), a.str(1)); },
@@ -82,9 +119,10 @@ void addRegistryMembers(Table<lib>& t) {
                  withNote(u"A key without sub-keys counts 1. A sub-key that cannot be opened "
                           u"ends the counting of its parent's remaining sub-keys. The keys "
                           u"opened for counting stay open.")});
-    t.push_back({u"regFindKeys",
-                 Kind::Method,
-                 {key, subKey, byRef(u"sKeys", T::Array | T::String)},
+    t.push_back({55,
+                 u"regFindKeys",
+                 CallKind::Method,
+                 {key, subKey, output(u"sKeys", T::Array | T::String)},
                  T::Empty,
                  [](lib& l, Args& a) -> Variant {
                      l.regFindKeys(a.i32(0), a.str(1), a[2].array());

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-namespace velkor6::com {
+namespace velkor6::typelib {
 
 inline constexpr std::u16string_view libraryName = u"velkor6";
 inline constexpr std::u16string_view libraryId = u"4FDAFE86-1181-43DB-9669-4B9A9AACEED3";
@@ -22,4 +22,4 @@ inline constexpr ClassIds libIds{u"lib", u"61792E25-897C-44AB-B8C9-86ECA5F7195B"
 inline constexpr ClassIds applibIds{u"applib", u"4C7FAAD2-C18C-4255-BB48-590DC6457826",
                                     u"41F95944-FBB0-40A3-A493-E40AC090DD90"};
 
-} // namespace velkor6::com
+} // namespace velkor6::typelib

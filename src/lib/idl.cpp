@@ -1,11 +1,10 @@
-#include "idl.h"
+#include "lib/idl.h"
 
-#include "com/class_ids.h"
-#include "com/idl_names.h"
 #include "core/text.h"
 #include "lib/applib_members.h"
+#include "lib/class_ids.h"
+#include "lib/idl_names.h"
 #include "lib/lib_members.h"
-#include "lib/member_ids.h"
 #include "velkor6/enums.h"
 
 #include <cmath>
@@ -14,10 +13,8 @@
 #include <span>
 #include <string>
 
-namespace velkor6::cli {
+namespace velkor6::typelib {
 namespace {
-
-using dispatch::Kind;
 
 std::string text(std::u16string_view s) {
     return toUtf8(s);
@@ -117,28 +114,25 @@ std::string parameter(const dispatch::Param& p) {
     std::string type = typeName(p.type);
     if (p.byRef || array)
         type += "*";
-    return "[" + attributes + "] " + type + " " + text(com::idlParameterName(p.name));
+    return "[" + attributes + "] " + type + " " + text(idlParameterName(p.name));
 }
 
 template <class Target>
-void writeInterface(std::ostream& out, const com::ClassIds& ids,
-                    const dispatch::Table<Target>& table) {
-    const std::vector<std::int32_t> memberIds = dispatch::memberIds(table);
+void writeInterface(std::ostream& out, const ClassIds& ids, const dispatch::Table<Target>& table) {
     out << "    [\n        uuid(" << text(ids.interfaceId) << "),\n        helpstring("
         << quoted(u"Members of class " + std::u16string(ids.name)) << ")\n    ]\n"
         << "    dispinterface _" << text(ids.name) << "\n    {\n    properties:\n    methods:\n";
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        const auto& m = table[i];
-        out << "        [id(" << memberIds[i] << ")";
-        if (m.kind == Kind::PropertyGet)
+    for (const auto& m : table) {
+        out << "        [id(" << m.id << ")";
+        if (m.kind == CallKind::PropertyGet)
             out << ", propget";
-        else if (m.kind == Kind::PropertyLet)
+        else if (m.kind == CallKind::PropertyLet)
             out << ", propput";
         if (!m.summary.empty())
             out << ", helpstring(" << quoted(m.summary) << ")";
         out << "]\n        ";
-        out << (m.result == VarType::Empty || m.kind == Kind::PropertyLet ? "void"
-                                                                          : typeName(m.result));
+        out << (m.result == VarType::Empty || m.kind == CallKind::PropertyLet ? "void"
+                                                                              : typeName(m.result));
         out << " " << text(m.name) << "(";
         for (std::size_t p = 0; p < m.params.size(); ++p) {
             out << (p == 0 ? "" : ",") << "\n            " << parameter(m.params[p]);
@@ -181,9 +175,9 @@ void writeIdl(std::ostream& out) {
            "typedef struct tagCY { hyper int64; } CURRENCY;\n"
            "typedef struct tagVARIANT { hyper placeholder[2]; } VARIANT;\n"
            "interface IDispatch;\n\n"
-        << "[\n    uuid(" << text(com::libraryId) << "),\n    version(" << com::libraryMajor << "."
-        << com::libraryMinor << "),\n    helpstring(" << quoted(com::libraryName)
-        << ")\n]\nlibrary " << text(com::libraryName) << "\n{\n"
+        << "[\n    uuid(" << text(libraryId) << "),\n    version(" << libraryMajor << "."
+        << libraryMinor << "),\n    helpstring(" << quoted(libraryName) << ")\n]\nlibrary "
+        << text(libraryName) << "\n{\n"
         << "    importlib(\"stdole2.tlb\");\n\n";
     const PublicEnum enums[] = {
         {"SpecialFolderConsts", specialFolderConstsMembers},
@@ -196,9 +190,9 @@ void writeIdl(std::ostream& out) {
     };
     for (const PublicEnum& e : enums)
         writeEnum(out, e);
-    writeInterface(out, com::libIds, dispatch::libMembers());
-    writeInterface(out, com::applibIds, dispatch::applibMembers());
+    writeInterface(out, libIds, dispatch::libMembers());
+    writeInterface(out, applibIds, dispatch::applibMembers());
     out << "};\n";
 }
 
-} // namespace velkor6::cli
+} // namespace velkor6::typelib

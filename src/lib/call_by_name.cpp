@@ -1,13 +1,23 @@
-// Rows of the call-by-name members.
+// Call by name and compression: the `lib` members and their rows in the member table.
 #include "lib/lib_members.h"
+#include "lzw/global_var.h"
+
+namespace velkor6 {
+
+Variant lib::vkrGlobalVar(std::u16string_view sName, const Variant& vParam) {
+    return lzw::callGlobalVar(sName, vParam, locale());
+}
+
+} // namespace velkor6
 
 namespace velkor6::dispatch {
 
 void addCallByNameMembers(Table<lib>& t) {
     using T = VarType;
     t.push_back(
-        {u"vkrGlobalVar",
-         Kind::Method,
+        {22,
+         u"vkrGlobalVar",
+         CallKind::Method,
          {required(u"sName", T::String), optional(u"vParam", T::Variant, Variant::missing())},
          T::Variant,
          [](lib& l, Args& a) -> Variant { return l.vkrGlobalVar(a.str(0), a[1]); },

@@ -1,15 +1,26 @@
-// The row that creates application contexts.
+// Application contexts for host programs: the `lib` members and their rows in the member table.
 #include "applib/host_app.h"
 #include "lib/applib_members.h"
 #include "lib/lib_members.h"
 #include "velkor6/vb_error.h"
 
+namespace velkor6 {
+
+std::shared_ptr<applib> lib::vkrInitApp(const HostApp& oApp, std::u16string_view sAppName) {
+    auto context = std::make_shared<applib>(module_);
+    context->init(oApp, sAppName);
+    return context;
+}
+
+} // namespace velkor6
+
 namespace velkor6::dispatch {
 
 void addInitAppMembers(Table<lib>& t) {
     using T = VarType;
-    t.push_back({u"vkrInitApp",
-                 Kind::Method,
+    t.push_back({56,
+                 u"vkrInitApp",
+                 CallKind::Method,
                  {required(u"oApp", T::Object), required(u"sAppName", T::String)},
                  T::Object,
                  [](lib& l, Args& a) -> Variant {

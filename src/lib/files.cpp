@@ -1,8 +1,170 @@
-// Rows of the path, file and folder members.
+// Paths, files and folders: the `lib` members and their rows in the member table.
+#include "files/compare_folders.h"
+#include "files/file_io.h"
+#include "files/find_file.h"
+#include "files/folders.h"
+#include "files/paths.h"
 #include "lib/lib_members.h"
 #include "velkor6/record_object.h"
 
 #include <memory>
+
+namespace velkor6 {
+namespace {
+
+// The title of the library's own messages: the file description of its version information.
+constexpr std::u16string_view fileDescription = u"velkor6";
+
+template <class F, class R>
+R trapped(F f, R neutral) {
+    try {
+        return f();
+    } catch (const std::exception&) {
+        return neutral;
+    }
+}
+
+} // namespace
+
+std::u16string lib::vkrGetFullPath(std::u16string_view sPath, std::u16string_view sFile) {
+    return files::getFullPath(sPath, sFile, module().platform().fileSystem->pathStyle());
+}
+
+std::u16string lib::vkrSystemDir() {
+    return trapped(
+        [&] { return files::systemDir(*module().platform().fileSystem, windowsDirectory_); },
+        windowsDirectory_);
+}
+
+std::u16string lib::vkrTempDir() {
+    Module& m = module();
+    return trapped([&] { return files::tempDir(*m.platform().fileSystem, m.tempFolderCache()); },
+                   m.tempFolderCache());
+}
+
+std::u16string lib::vkrFileStream(std::u16string_view sFilename) {
+    return trapped(
+        [&] { return files::readFileStream(*module().platform().fileSystem, sFilename); },
+        std::u16string());
+}
+
+void lib::vkrFileStreamLet(std::u16string_view sFilename, std::u16string_view value) {
+    trapped(
+        [&] { return files::writeFileStream(*module().platform().fileSystem, sFilename, value); },
+        false);
+}
+
+void lib::vkrChangeToPath(std::u16string_view sPath) {
+    trapped(
+        [&] {
+            files::changeToPath(*module().platform().fileSystem, sPath);
+            return true;
+        },
+        false);
+}
+
+std::u16string lib::vkrGetAbsolutePath(std::u16string_view sSource, std::u16string_view sTarget) {
+    return trapped(
+        [&] {
+            return files::getAbsolutePath(sSource, sTarget,
+                                          module().platform().fileSystem->pathStyle());
+        },
+        std::u16string());
+}
+
+std::u16string lib::vkrGetRelativePath(std::u16string_view sSource, std::u16string_view sTarget) {
+    return trapped(
+        [&] { return files::getRelativePath(*module().platform().fileSystem, sSource, sTarget); },
+        std::u16string());
+}
+
+bool lib::vkrFileExists(std::u16string_view filename) {
+    return trapped([&] { return files::fileExists(*module().platform().fileSystem, filename); },
+                   false);
+}
+
+bool lib::vkrPathExists(std::u16string_view sPath) {
+    return trapped([&] { return files::pathExists(*module().platform().fileSystem, sPath); },
+                   false);
+}
+
+std::u16string lib::vkrFindFile(std::u16string_view sFilename, std::u16string_view sFolder) {
+    Platform& p = module().platform();
+    return trapped([&] { return files::findFile(*p.fileSystem, *p.input, sFilename, sFolder); },
+                   std::u16string());
+}
+
+bool lib::vkrCheckAttributes(std::u16string_view sPathName, std::int16_t iAllowedAttribute) {
+    Platform& p = module().platform();
+    return trapped(
+        [&] {
+            return files::checkAttributes(*p.fileSystem, *p.ui, sPathName, iAllowedAttribute,
+                                          fileDescription);
+        },
+        false);
+}
+
+bool lib::vkrSeparateFile(std::u16string_view sFullName, typFileInfo& tFileInfo) {
+    return trapped(
+        [&] { return files::separateFile(*module().platform().fileSystem, sFullName, tFileInfo); },
+        false);
+}
+
+std::u16string lib::prfGetSpecialFolder(std::int32_t lngCSIDL) {
+    return trapped([&] { return module().platform().environment->specialFolder(lngCSIDL); },
+                   std::u16string());
+}
+
+bool lib::prfChangeDir(std::u16string_view sFolder) {
+    return trapped([&] { return files::changeDir(*module().platform().fileSystem, sFolder); },
+                   false);
+}
+
+bool lib::prfMakeDir(std::u16string_view sFolder) {
+    return trapped([&] { return files::makeDir(*module().platform().fileSystem, sFolder); }, false);
+}
+
+bool lib::prfCompareFiles(std::u16string_view sFilename, std::u16string_view sSource,
+                          std::u16string_view sTarget) {
+    return trapped(
+        [&] {
+            return files::compareFiles(*module().platform().fileSystem, sFilename, sSource,
+                                       sTarget);
+        },
+        false);
+}
+
+bool lib::prfCompareFolders(std::u16string_view sSource, std::u16string_view sTarget,
+                            std::u16string_view sMask, const ObjectRef& oSplash) {
+    Platform& p = module().platform();
+    return trapped(
+        [&] {
+            return files::compareFolders(*p.fileSystem, *p.ui, locale(), sSource, sTarget, sMask,
+                                         oSplash);
+        },
+        false);
+}
+
+Variant lib::prfGetFileList(std::u16string_view sFolder, std::u16string_view sMask,
+                            std::u16string_view sLikeFilter) {
+    VariantArray names;
+    names.element = VarType::String;
+    try {
+        for (std::u16string& name :
+             files::getFileList(*module().platform().fileSystem, sFolder, sMask, sLikeFilter))
+            names.items.emplace_back(std::move(name));
+    } catch (const std::exception&) {
+        names.items.clear();
+    }
+    names.bounds = {ArrayBound{0, static_cast<std::int32_t>(names.items.size())}};
+    return Variant(std::move(names));
+}
+
+bool lib::prfIsAdmin() {
+    return trapped([&] { return module().platform().environment->userIsAdmin(); }, false);
+}
+
+} // namespace velkor6
 
 namespace velkor6::dispatch {
 namespace {
@@ -39,8 +201,9 @@ void addFileMembers(Table<lib>& t) {
     using T = VarType;
 
     // --- Paths and files ----------------------------------------------------------------
-    t.push_back({u"vkrGetFullPath",
-                 Kind::Method,
+    t.push_back({32,
+                 u"vkrGetFullPath",
+                 CallKind::Method,
                  {required(u"sPath", T::String), required(u"sFile", T::String)},
                  T::String,
                  [](lib& l, Args& a) -> Variant { return l.vkrGetFullPath(a.str(0), a.str(1)); },
@@ -49,30 +212,34 @@ void addFileMembers(Table<lib>& t) {
                  u"of sFile is dropped: an empty sPath gives a separator followed by sFile. The "
                  u"separator is \"\\\" on Windows and \"/\" on POSIX, where \"\\\" counts as one "
                  u"too."});
-    t.push_back({u"vkrSystemDir",
-                 Kind::Method,
+    t.push_back({33,
+                 u"vkrSystemDir",
+                 CallKind::Method,
                  {},
                  T::String,
                  [](lib& l, Args&) -> Variant { return l.vkrSystemDir(); },
                  u"The Windows directory (not the system directory), read once per object.",
                  u"On POSIX: /usr."});
-    t.push_back({u"vkrTempDir",
-                 Kind::Method,
+    t.push_back({34,
+                 u"vkrTempDir",
+                 CallKind::Method,
                  {},
                  T::String,
                  [](lib& l, Args&) -> Variant { return l.vkrTempDir(); },
                  u"The user's temporary folder, always ending in a separator.",
                  u"Read once for the whole library and kept, even when the environment changes. "
                  u"On POSIX: $TMPDIR, else /tmp."});
-    t.push_back({u"vkrFileStream",
-                 Kind::PropertyGet,
+    t.push_back({35,
+                 u"vkrFileStream",
+                 CallKind::PropertyGet,
                  {required(u"sFilename", T::String)},
                  T::String,
                  [](lib& l, Args& a) -> Variant { return l.vkrFileStream(a.str(0)); },
                  u"The whole content of a file, one character per byte (ANSI code page).",
                  u"No line-end conversion. \"\" when the file cannot be read."});
-    t.push_back({u"vkrFileStream",
-                 Kind::PropertyLet,
+    t.push_back({35,
+                 u"vkrFileStream",
+                 CallKind::PropertyLet,
                  {required(u"sFilename", T::String), required(u"value", T::String)},
                  T::Empty,
                  [](lib& l, Args& a) -> Variant {
@@ -81,8 +248,9 @@ void addFileMembers(Table<lib>& t) {
                  },
                  u"Replaces the file with the text in the ANSI code page, followed by CR LF.",
                  u"A file that cannot be written is left as it is, without an error."});
-    t.push_back({u"vkrChangeToPath",
-                 Kind::Method,
+    t.push_back({36,
+                 u"vkrChangeToPath",
+                 CallKind::Method,
                  {required(u"sPath", T::String)},
                  T::Empty,
                  [](lib& l, Args& a) -> Variant {
@@ -94,8 +262,9 @@ void addFileMembers(Table<lib>& t) {
                  u"C:\\App\\Data\\app.exe makes C:\\App\\Data current, and C:\\App\\Data makes "
                  u"C:\\App current. A missing folder changes nothing."});
     t.push_back(
-        {u"vkrGetAbsolutePath",
-         Kind::Method,
+        {37,
+         u"vkrGetAbsolutePath",
+         CallKind::Method,
          {required(u"sSource", T::String), required(u"sTarget", T::String)},
          T::String,
          [](lib& l, Args& a) -> Variant { return l.vkrGetAbsolutePath(a.str(0), a.str(1)); },
@@ -105,8 +274,9 @@ void addFileMembers(Table<lib>& t) {
          u"separator), sTarget is appended and \".\" and \"..\" are resolved: "
          u"C:\\App\\Data\\app.ini and ..\\Logs\\run.log give C:\\App\\Logs\\run.log."});
     t.push_back(
-        {u"vkrGetRelativePath",
-         Kind::Method,
+        {38,
+         u"vkrGetRelativePath",
+         CallKind::Method,
          {required(u"sSource", T::String), required(u"sTarget", T::String)},
          T::String,
          [](lib& l, Args& a) -> Variant { return l.vkrGetRelativePath(a.str(0), a.str(1)); },
@@ -114,23 +284,26 @@ void addFileMembers(Table<lib>& t) {
          u"is the base.",
          u"A target below the base keeps a leading .\\ (./ on POSIX). Paths without a "
          u"common root (different drives) give sTarget unchanged."});
-    t.push_back({u"vkrFileExists",
-                 Kind::Method,
+    t.push_back({39,
+                 u"vkrFileExists",
+                 CallKind::Method,
                  {required(u"filename", T::String)},
                  T::Boolean,
                  [](lib& l, Args& a) -> Variant { return l.vkrFileExists(a.str(0)); },
                  u"Whether the file exists (false for a folder).",
                  {}});
-    t.push_back({u"vkrPathExists",
-                 Kind::Method,
+    t.push_back({40,
+                 u"vkrPathExists",
+                 CallKind::Method,
                  {required(u"sPath", T::String)},
                  T::Boolean,
                  [](lib& l, Args& a) -> Variant { return l.vkrPathExists(a.str(0)); },
                  u"Whether sPath is an existing folder (false for a file).",
                  {}});
     t.push_back(
-        {u"vkrFindFile",
-         Kind::Method,
+        {41,
+         u"vkrFindFile",
+         CallKind::Method,
          {required(u"sFilename", T::String), optional(u"sFolder", T::String, u"")},
          T::String,
          [](lib& l, Args& a) -> Variant { return l.vkrFindFile(a.str(0), a.str(1)); },
@@ -144,8 +317,9 @@ void addFileMembers(Table<lib>& t) {
          u"are not followed. On POSIX without a window system the Escape key cannot be read, so "
          u"the search always runs to its end."});
     t.push_back(
-        {u"vkrCheckAttributes",
-         Kind::Method,
+        {42,
+         u"vkrCheckAttributes",
+         CallKind::Method,
          {required(u"sPathName", T::String), required(u"iAllowedAttribute", T::Integer)},
          T::Boolean,
          [](lib& l, Args& a) -> Variant { return l.vkrCheckAttributes(a.str(0), a.i16(1)); },
@@ -157,9 +331,10 @@ void addFileMembers(Table<lib>& t) {
          u"\".\", system never applies, directory is a folder; without a display the message "
          u"goes to standard error."});
     t.push_back(
-        {u"vkrSeparateFile",
-         Kind::Method,
-         {required(u"sFullName", T::String), byRef(u"tFileInfo", T::Variant)},
+        {43,
+         u"vkrSeparateFile",
+         CallKind::Method,
+         {required(u"sFullName", T::String), output(u"tFileInfo", T::Variant)},
          T::Boolean,
          [](lib& l, Args& a) -> Variant {
              typFileInfo info;
@@ -176,8 +351,9 @@ void addFileMembers(Table<lib>& t) {
 
     // --- Folders, special folders and file comparison -----------------------------------
     t.push_back(
-        {u"prfGetSpecialFolder",
-         Kind::Method,
+        {44,
+         u"prfGetSpecialFolder",
+         CallKind::Method,
          {required(u"lngCSIDL", T::Long)},
          T::String,
          [](lib& l, Args& a) -> Variant { return l.prfGetSpecialFolder(a.i32(0)); },
@@ -197,8 +373,9 @@ void addFileMembers(Table<lib>& t) {
          u"folders, FAVORITES, RECENT, SENDTO, COOKIES, HISTORY, NETHOOD, PRINTHOOD, "
          u"ADMINTOOLS and the remaining COMMON_ folders) give \"\". Flag bits such as "
          u"CSIDL_FLAG_CREATE are ignored."});
-    t.push_back({u"prfChangeDir",
-                 Kind::Method,
+    t.push_back({45,
+                 u"prfChangeDir",
+                 CallKind::Method,
                  {required(u"sFolder", T::String)},
                  T::Boolean,
                  [](lib& l, Args& a) -> Variant { return l.prfChangeDir(a.str(0)); },
@@ -206,16 +383,18 @@ void addFileMembers(Table<lib>& t) {
                  u"when it is current afterwards.",
                  u"A trailing separator is dropped except at a drive root (X:\\) or \"/\". The "
                  u"comparison ignores letter case; on POSIX \"\\\" and \"/\" count as the same."});
-    t.push_back({u"prfMakeDir",
-                 Kind::Method,
+    t.push_back({46,
+                 u"prfMakeDir",
+                 CallKind::Method,
                  {required(u"sFolder", T::String)},
                  T::Boolean,
                  [](lib& l, Args& a) -> Variant { return l.prfMakeDir(a.str(0)); },
                  u"Creates sFolder with all missing parents; true when it exists afterwards.",
                  {}});
     t.push_back(
-        {u"prfCompareFiles",
-         Kind::Method,
+        {47,
+         u"prfCompareFiles",
+         CallKind::Method,
          {required(u"sFilename", T::String), required(u"sSource", T::String),
           required(u"sTarget", T::String)},
          T::Boolean,
@@ -224,8 +403,9 @@ void addFileMembers(Table<lib>& t) {
          u"missing or older; never asks.",
          u"False when a date could not be read or the copy failed, true otherwise."});
     t.push_back(
-        {u"prfCompareFolders",
-         Kind::Method,
+        {48,
+         u"prfCompareFolders",
+         CallKind::Method,
          {required(u"sSource", T::String), required(u"sTarget", T::String),
           optional(u"sMask", T::String, u"*.*"),
           optional(u"oSplash", T::Object, Variant::nothing())},
@@ -241,8 +421,9 @@ void addFileMembers(Table<lib>& t) {
          u"is missing or sTarget cannot be made. On POSIX without a display the question goes to "
          u"standard error and is answered with its default button (yes)."});
     t.push_back(
-        {u"prfGetFileList",
-         Kind::Method,
+        {49,
+         u"prfGetFileList",
+         CallKind::Method,
          {required(u"sFolder", T::String), optional(u"sMask", T::String, u"*.*"),
           optional(u"sLikeFilter", T::String, u"*")},
          T::Variant,
@@ -252,8 +433,9 @@ void addFileMembers(Table<lib>& t) {
          u"The mask uses the directory listing's wildcards (* and ?, letter case ignored). "
          u"Hidden, system files and folders are left out; on POSIX names starting with "
          u"\".\" are hidden. A missing folder gives an empty array."});
-    t.push_back({u"prfIsAdmin",
-                 Kind::Method,
+    t.push_back({50,
+                 u"prfIsAdmin",
+                 CallKind::Method,
                  {},
                  T::Boolean,
                  [](lib& l, Args&) -> Variant { return l.prfIsAdmin(); },

@@ -1,5 +1,4 @@
-#include "idl.h"
-#include "lib/member_ids.h"
+#include "lib/idl.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -11,7 +10,7 @@ namespace {
 
 std::string freshIdl() {
     std::ostringstream out;
-    cli::writeIdl(out);
+    typelib::writeIdl(out);
     return out.str();
 }
 
@@ -25,22 +24,6 @@ TEST(ComTypeLibrary, CommittedIdlMatchesTheMemberTables) {
     EXPECT_TRUE(committed.str() == fresh)
         << "src/com/velkor6.idl is not current: velkor6 members --idl > src/com/velkor6.idl "
            "(the fresh one is velkor6.idl.new in the test's folder)";
-}
-
-TEST(ComTypeLibrary, GetAndLetShareTheNumberOfTheirName) {
-    struct Target {};
-    using dispatch::Kind;
-    dispatch::Table<Target> table;
-    for (const auto& [name, kind] : {std::pair{u"First", Kind::Method},
-                                     {u"Value", Kind::PropertyGet},
-                                     {u"VALUE", Kind::PropertyLet},
-                                     {u"Last", Kind::Method}}) {
-        dispatch::Member<Target> m;
-        m.name = name;
-        m.kind = kind;
-        table.push_back(m);
-    }
-    EXPECT_EQ(dispatch::memberIds(table), (std::vector<std::int32_t>{1, 2, 2, 3}));
 }
 
 TEST(ComTypeLibrary, ParametersCarryDirectionDefaultsAndTypes) {

@@ -1,9 +1,71 @@
-// Rows of the language resources: lookups in the caller's resource documents (lib), the
-// resource libraries of an application (lib and applib).
+// XML resources and resource libraries: the `lib` members and their rows in the member table.
+#include "core/text.h"
 #include "lib/applib_members.h"
 #include "lib/dispatch_object.h"
 #include "lib/lib_members.h"
+#include "resources/resource_library.h"
+#include "resources/xml_lookups.h"
 #include "velkor6/vb_error.h"
+
+namespace velkor6 {
+namespace {
+
+// The fill members trap their errors: whatever was filled stays.
+template <class F>
+void trapped(F f) {
+    try {
+        f();
+    } catch (const std::exception&) {
+    }
+}
+
+} // namespace
+
+std::u16string lib::vkrXMLRes(const ObjectRef& oDOMDoc, std::u16string_view sName,
+                              std::int16_t iNumber) {
+    return resources::xmlRes(oDOMDoc, sName, iNumber, locale());
+}
+
+std::u16string lib::vkrXMLItemProp(const ObjectRef& oXMLNode, std::u16string_view sProp) {
+    return resources::itemProp(oXMLNode, sProp, locale());
+}
+
+void lib::vkrXMLFillList(const ObjectRef& oDOMDoc, const ObjectRef& oList,
+                         std::u16string_view sName) {
+    trapped([&] { resources::fillList(oDOMDoc, oList, sName, locale()); });
+}
+
+void lib::vkrXMLFillTabStrip(const ObjectRef& oDOMDoc, const ObjectRef& oTab,
+                             std::u16string_view sName) {
+    trapped([&] { resources::fillTabStrip(oDOMDoc, oTab, sName, locale()); });
+}
+
+void lib::vkrXMLFillComboWithResList(const ObjectRef& oDOMDoc, const ObjectRef& oCombo,
+                                     std::u16string_view sResID,
+                                     std::u16string_view sInclNoFormat) {
+    trapped(
+        [&] { resources::fillComboWithResList(oDOMDoc, oCombo, sResID, sInclNoFormat, locale()); });
+}
+
+std::u16string lib::vkrRes(applib& oApp, std::int32_t lResID) {
+    try {
+        // The libraries are named by language number here, not by the two letters.
+        const std::u16string path =
+            resources::resourceLibraryName(oApp.stringValue(u"Application", u"ResourceDLL"),
+                                           fromUtf8(std::to_string(oApp.language())));
+        const resources::LoadedLibrary library =
+            resources::loadResourceLibrary(*module().platform().fileSystem, path);
+        if (!library.image) {
+            oApp.logError(library.error, u"LoadLibrary '" + path + u"' failed.", u"velkor6.vkrRes");
+            return {};
+        }
+        return resources::loadString(*library.image, lResID);
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+} // namespace velkor6
 
 namespace velkor6::dispatch {
 namespace {
@@ -25,8 +87,9 @@ applib& contextOf(const Variant& v) {
 
 void addResourceMembers(Table<lib>& t) {
     t.push_back(
-        {u"vkrXMLRes",
-         Kind::Method,
+        {57,
+         u"vkrXMLRes",
+         CallKind::Method,
          {required(u"oDOMDoc", T::Object), required(u"sName", T::String),
           optional(u"iNumber", T::Integer, std::int16_t{-1})},
          T::String,
@@ -36,15 +99,17 @@ void addResourceMembers(Table<lib>& t) {
          u"count. The language is not asked: a caller's document holds one. \"\" when "
          u"no item matches or the document fails."});
     t.push_back(
-        {u"vkrXMLItemProp",
-         Kind::Method,
+        {58,
+         u"vkrXMLItemProp",
+         CallKind::Method,
          {required(u"oXMLNode", T::Object), required(u"sProp", T::String)},
          T::String,
          [](lib& l, Args& a) -> Variant { return l.vkrXMLItemProp(a[0].object(), a.str(1)); },
          u"The attribute sProp of an element of a resource document.",
          u"\"\" when the element has no such attribute."});
-    t.push_back({u"vkrXMLFillList",
-                 Kind::Method,
+    t.push_back({59,
+                 u"vkrXMLFillList",
+                 CallKind::Method,
                  {required(u"oDOMDoc", T::Object), required(u"oList", T::Object),
                   required(u"sName", T::String)},
                  T::Empty,
@@ -56,8 +121,9 @@ void addResourceMembers(Table<lib>& t) {
                  u"The list is cleared first (Clear); each item in document order is added "
                  u"(AddItem) and its number becomes the entry's ItemData (0 when it has none). "
                  u"An error stops the filling; the entries added so far stay."});
-    t.push_back({u"vkrXMLFillTabStrip",
-                 Kind::Method,
+    t.push_back({60,
+                 u"vkrXMLFillTabStrip",
+                 CallKind::Method,
                  {required(u"oDOMDoc", T::Object), required(u"oTab", T::Object),
                   required(u"sName", T::String)},
                  T::Empty,
@@ -68,8 +134,9 @@ void addResourceMembers(Table<lib>& t) {
                  u"Gives a tab strip one tab per item named sName, captioned with its text.",
                  u"The tabs are cleared first (Tabs.Clear); each item in document order adds a "
                  u"tab at the end without a key (Tabs.Add). An error stops the filling."});
-    t.push_back({u"vkrXMLFillComboWithResList",
-                 Kind::Method,
+    t.push_back({61,
+                 u"vkrXMLFillComboWithResList",
+                 CallKind::Method,
                  {required(u"oDOMDoc", T::Object), required(u"oCombo", T::Object),
                   required(u"sResID", T::String), optional(u"sInclNoFormat", T::String, u"")},
                  T::Empty,
@@ -83,8 +150,9 @@ void addResourceMembers(Table<lib>& t) {
                  u"When sInclNoFormat is not \"\", it comes first as an entry of its own with "
                  u"ItemData -1, the choice of none of the list. The combo is cleared first; "
                  u"an error stops the filling."});
-    t.push_back({u"vkrRes",
-                 Kind::Method,
+    t.push_back({62,
+                 u"vkrRes",
+                 CallKind::Method,
                  {required(u"oApp", T::Object), required(u"lResID", T::Long)},
                  T::String,
                  [](lib& l, Args& a) -> Variant { return l.vkrRes(contextOf(a[0]), a.i32(1)); },
@@ -97,8 +165,9 @@ void addResourceMembers(Table<lib>& t) {
 }
 
 void addApplibResourceMembers(Table<applib>& t) {
-    t.push_back({u"getLanguagesList",
-                 Kind::Method,
+    t.push_back({17,
+                 u"getLanguagesList",
+                 CallKind::Method,
                  {},
                  T::String | T::Array,
                  [](applib& a, Args&) -> Variant { return a.getLanguagesList(); },
@@ -109,8 +178,9 @@ void addApplibResourceMembers(Table<applib>& t) {
                  u"FR, IT, ES, CZ, PL, HP). The languages come in the library's order; an "
                  u"array without entries when there are none."});
     t.push_back(
-        {u"loadRes",
-         Kind::Method,
+        {18,
+         u"loadRes",
+         CallKind::Method,
          {required(u"lResID", T::Long), required(u"sResType", T::String)},
          T::String,
          [](applib& a, Args& r) -> Variant { return a.loadRes(r.i32(0), r.str(1)); },

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace velkor6::com {
+namespace velkor6::typelib {
 
 inline bool isIdlKeyword(std::u16string_view name) {
     static constexpr std::u16string_view reserved[] = {
@@ -27,4 +27,4 @@ inline std::u16string idlParameterName(std::u16string_view name) {
     return spelled;
 }
 
-} // namespace velkor6::com
+} // namespace velkor6::typelib

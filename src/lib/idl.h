@@ -3,10 +3,10 @@
 
 #include <iosfwd>
 
-namespace velkor6::cli {
+namespace velkor6::typelib {
 
 // Writes the IDL of the library: one dispatch interface and one class per public class, and
 // the public enumerations. The COM server numbers its members the same way.
 void writeIdl(std::ostream& out);
 
-} // namespace velkor6::cli
+} // namespace velkor6::typelib

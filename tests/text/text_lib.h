@@ -1,0 +1,15 @@
+// A `lib` over a bare platform: the text members need no operating-system service, only the
+// locale that numeric words are read in.
+#pragma once
+
+#include "velkor6/lib.h"
+
+#include <memory>
+
+namespace velkor6::text {
+
+inline lib members(const Locale& locale = Locale::englishUS()) {
+    return lib(std::make_shared<Module>(std::make_unique<Platform>(), locale));
+}
+
+} // namespace velkor6::text
