@@ -27,43 +27,6 @@ bool sameName(std::u16string_view a, std::u16string_view b) {
     return textEqual(a, b, Compare::Text);
 }
 
-std::u16string decode(std::string_view bytes, TextEncoding& encoding) {
-    const auto starts = [&](std::string_view mark) { return bytes.substr(0, mark.size()) == mark; };
-    if (starts("\xEF\xBB\xBF")) {
-        encoding = TextEncoding::Utf8;
-        return fromUtf8(bytes.substr(3));
-    }
-    const bool le = starts("\xFF\xFE");
-    if (le || starts("\xFE\xFF")) {
-        encoding = le ? TextEncoding::Utf16Le : TextEncoding::Utf16Be;
-        return fromUtf16(bytes.substr(2), !le);
-    }
-    encoding = TextEncoding::Ansi;
-    return fromAnsi(bytes);
-}
-
-std::string encode(std::u16string_view text, TextEncoding encoding) {
-    switch (encoding) {
-    case TextEncoding::Ansi:
-        return toAnsi(text);
-    case TextEncoding::Utf8:
-        return "\xEF\xBB\xBF" + toUtf8(text);
-    case TextEncoding::Utf16Le:
-    case TextEncoding::Utf16Be: {
-        const bool le = encoding == TextEncoding::Utf16Le;
-        std::string bytes = le ? "\xFF\xFE" : "\xFE\xFF";
-        for (const char16_t c : text) {
-            const char lo = static_cast<char>(c & 0xFF);
-            const char hi = static_cast<char>(c >> 8);
-            bytes.push_back(le ? lo : hi);
-            bytes.push_back(le ? hi : lo);
-        }
-        return bytes;
-    }
-    }
-    return {};
-}
-
 } // namespace
 
 std::u16string_view trimProfileBlanks(std::u16string_view s) {
@@ -104,7 +67,8 @@ IniDocument::Line::Line(std::u16string lineText, std::u16string lineEnd)
 }
 
 IniDocument::IniDocument(std::string_view bytes) {
-    const std::u16string text = decode(bytes, encoding_);
+    encoding_ = textEncoding(bytes);
+    const std::u16string text = decodeText(bytes, encoding_);
     lines_.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), u'\n')) + 1);
     std::size_t i = 0;
     while (i < text.size()) {
@@ -127,7 +91,7 @@ std::string IniDocument::bytes() const {
         text += line.text;
         text += line.end;
     }
-    return encode(text, encoding_);
+    return encodeText(text, writeEncoding(encoding_, text));
 }
 
 std::optional<std::size_t> IniDocument::findSection(std::u16string_view name) const {

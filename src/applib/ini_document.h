@@ -2,6 +2,7 @@
 // that settings files behave alike on every platform.
 #pragma once
 
+#include "core/text_file.h"
 #include "velkor6/platform/settings_files.h"
 
 #include <cstddef>
@@ -11,9 +12,6 @@
 #include <vector>
 
 namespace velkor6::app {
-
-// Without a byte-order mark a file is ANSI text; with one it is written back in its encoding.
-enum class TextEncoding { Ansi, Utf8, Utf16Le, Utf16Be };
 
 // The rules: section and key names compare without regard to case and with blanks around them
 // dropped; the first matching section, and the first matching key in it, wins; a value loses
@@ -30,6 +28,7 @@ public:
     explicit IniDocument(std::string_view bytes);
 
     std::string bytes() const;
+    // The encoding the file was read in, and is written back in (core/text_file.h).
     TextEncoding encoding() const { return encoding_; }
 
     // nullopt when the section or the key is missing, the key has no "=", or a name is empty.
@@ -69,7 +68,7 @@ private:
     void insertLine(std::size_t at, std::u16string text);
 
     std::vector<Line> lines_;
-    TextEncoding encoding_ = TextEncoding::Ansi;
+    TextEncoding encoding_ = newTextEncoding();
 };
 
 // The blanks the profile functions trim: tab, line feed, vertical tab, form feed, carriage

@@ -1,6 +1,7 @@
 // The ANSI code page where no system supplies one: Windows-1252, the code page of the
 // Western European Windows installations whose files and registries the library reads.
 #include "core/text.h"
+#include "core/text_file.h"
 
 #include <array>
 
@@ -48,6 +49,14 @@ std::u16string fromAnsi(std::string_view s) {
     for (char b : s)
         out.push_back(ansiToChar(static_cast<unsigned char>(b)));
     return out;
+}
+
+TextEncoding plainTextEncoding(std::string_view bytes) {
+    return isValidUtf8(bytes) ? TextEncoding::Utf8 : TextEncoding::Ansi;
+}
+
+TextEncoding newTextEncoding() {
+    return TextEncoding::Utf8;
 }
 
 } // namespace velkor6

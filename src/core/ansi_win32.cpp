@@ -2,6 +2,7 @@
 // as the "A" functions and VB's string conversions do it, best-fit mappings included
 // ("Ā" becomes "A" where the code page has no "Ā").
 #include "core/text.h"
+#include "core/text_file.h"
 
 #include <windows.h>
 
@@ -49,6 +50,16 @@ std::u16string fromAnsi(std::string_view s) {
     std::u16string out(static_cast<std::size_t>(toWide(s, nullptr, 0)), u'\0');
     toWide(s, reinterpret_cast<wchar_t*>(out.data()), static_cast<int>(out.size()));
     return out;
+}
+
+// Files meant for people are in the code page, as the system's profile and file functions read
+// and write them.
+TextEncoding plainTextEncoding(std::string_view) {
+    return TextEncoding::Ansi;
+}
+
+TextEncoding newTextEncoding() {
+    return TextEncoding::Ansi;
 }
 
 } // namespace velkor6

@@ -45,7 +45,9 @@ void appendUtf16(std::u16string& out, char32_t cp) {
     }
 }
 
-// Decodes one UTF-8 sequence at s[i]; advances i past it. An ill-formed sequence yields U+FFFD
+constexpr char32_t illFormed = 0xFFFFFFFF;
+
+// Decodes one UTF-8 sequence at s[i]; advances i past it. An ill-formed sequence yields illFormed
 // and consumes its longest valid beginning (at least one byte).
 char32_t decodeUtf8(std::string_view s, std::size_t& i) {
     const auto byte = [&s](std::size_t k) { return static_cast<unsigned char>(s[k]); };
@@ -74,11 +76,11 @@ char32_t decodeUtf8(std::string_view s, std::size_t& i) {
         else if (lead == 0xF4)
             hi = 0x8F;
     } else {
-        return replacementChar;
+        return illFormed;
     }
     for (int k = 0; k < trail; ++k) {
         if (i >= s.size() || byte(i) < lo || byte(i) > hi)
-            return replacementChar;
+            return illFormed;
         cp = (cp << 6) | (byte(i++) & 0x3F);
         lo = 0x80;
         hi = 0xBF;
@@ -109,9 +111,20 @@ std::u16string fromUtf8(std::string_view s) {
     std::u16string out;
     out.reserve(s.size());
     std::size_t i = 0;
-    while (i < s.size())
-        appendUtf16(out, decodeUtf8(s, i));
+    while (i < s.size()) {
+        const char32_t cp = decodeUtf8(s, i);
+        appendUtf16(out, cp == illFormed ? replacementChar : cp);
+    }
     return out;
+}
+
+bool isValidUtf8(std::string_view s) {
+    std::size_t i = 0;
+    while (i < s.size()) {
+        if (decodeUtf8(s, i) == illFormed)
+            return false;
+    }
+    return true;
 }
 
 std::u16string fromUtf16(std::string_view bytes, bool bigEndian) {

@@ -13,6 +13,7 @@ enum class Compare { Binary = 0, Text = 1 };
 // bytes become characters (the process's code page on Windows, Windows-1252 elsewhere).
 std::string toUtf8(std::u16string_view s);
 std::u16string fromUtf8(std::string_view s);
+bool isValidUtf8(std::string_view s);        // no ill-formed, overlong or surrogate sequence
 std::string toAnsi(std::u16string_view s);   // characters the code page lacks become '?'
 std::u16string fromAnsi(std::string_view s); // in a single-byte code page, one byte a character
 // UTF-16 code units from bytes (a mark, if any, is the caller's to skip); an odd last byte is

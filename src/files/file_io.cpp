@@ -1,18 +1,22 @@
 #include "files/file_io.h"
 
 #include "core/text.h"
+#include "core/text_file.h"
 
 namespace velkor6::files {
 
+// A byte-order mark is part of the content here: it stays a character and is written back.
 std::u16string readFileStream(FileSystem& fs, std::u16string_view name) {
     const auto bytes = fs.readFile(name);
-    return bytes ? fromAnsi(*bytes) : std::u16string();
+    return bytes ? decodeText(*bytes, plainTextEncoding(*bytes)) : std::u16string();
 }
 
 bool writeFileStream(FileSystem& fs, std::u16string_view name, std::u16string_view text) {
-    std::string bytes = toAnsi(text);
-    bytes += "\r\n";
-    return fs.writeFile(name, bytes);
+    const auto old = fs.readFile(name);
+    const TextEncoding read = old ? plainTextEncoding(*old) : newTextEncoding();
+    std::u16string content(text);
+    content += u"\r\n";
+    return fs.writeFile(name, encodeText(content, writeEncoding(read, content)));
 }
 
 bool fileExists(FileSystem& fs, std::u16string_view name) {

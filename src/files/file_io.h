@@ -10,10 +10,11 @@
 
 namespace velkor6::files {
 
-// The file's bytes as characters of the ANSI code page; "" when it cannot be read.
+// The file's text (core/text_file.h: the code page on Windows, UTF-8 or Windows-1252 elsewhere);
+// "" when it cannot be read.
 std::u16string readFileStream(FileSystem& fs, std::u16string_view name);
-// Replaces the file with the text in the ANSI code page and a line end, as VB's Print # writes
-// it. False when the file cannot be written.
+// Replaces the file with the text and a line end, as VB's Print # writes it, in the encoding of
+// the file it replaces. False when the file cannot be written.
 bool writeFileStream(FileSystem& fs, std::u16string_view name, std::u16string_view text);
 
 bool fileExists(FileSystem& fs, std::u16string_view name); // false for a folder

@@ -45,8 +45,10 @@ Variant registryDataValue(const RegValue& value, const Locale& loc) {
     const std::string_view data = value.data;
     switch (value.type) {
     case regtype::sz:
-    case regtype::expandSz:
-        return data.empty() ? Variant(u"") : Variant(fromAnsi(data.substr(0, data.size() - 1)));
+    case regtype::expandSz: {
+        const std::u16string text = value.text ? *value.text : fromAnsi(data);
+        return text.empty() ? Variant(u"") : Variant(text.substr(0, text.size() - 1));
+    }
     case regtype::binary:
         return Variant(fromAnsi(data));
     case regtype::dword:

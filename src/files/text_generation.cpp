@@ -4,6 +4,7 @@
 #include "core/date.h"
 #include "core/format.h"
 #include "core/text.h"
+#include "core/text_file.h"
 #include "velkor6/vb_error.h"
 
 #include <cmath>
@@ -88,7 +89,7 @@ std::u16string textFromFileBytes(const std::optional<std::string>& bytes) {
     if (b.size() >= 2 && static_cast<unsigned char>(b[0]) == 0xFF &&
         static_cast<unsigned char>(b[1]) == 0xFE)
         return fromUtf16(std::string_view(b).substr(2));
-    return fromAnsi(b);
+    return decodeText(b, plainTextEncoding(b));
 }
 
 namespace {

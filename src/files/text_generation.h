@@ -25,8 +25,8 @@ void replacePredefinedExpressions(std::u16string& text, const Variant* pairs, Cl
 // The last day of the previous month, or of the current one after the 20th.
 Date lastDayFor(Date now);
 
-// A file's bytes as text: UTF-16 LE when they start with FF FE (the mark dropped), else one
-// character per ANSI byte. nullopt (no file, no access, empty) gives "".
+// A file's bytes as text: UTF-16 LE when they start with FF FE (the mark dropped), else plain text
+// as core/text_file.h reads it. nullopt (no file, no access, empty) gives "".
 std::u16string textFromFileBytes(const std::optional<std::string>& bytes);
 
 // One element per line, each nested level one tab deeper.

@@ -85,7 +85,7 @@ struct MemoryRegistry::Node {
     }
 };
 
-MemoryRegistry::MemoryRegistry() {
+MemoryRegistry::MemoryRegistry(RegistryText text) : text_(text) {
     for (OpenKey& root : roots_) {
         root.node = std::make_shared<Node>();
         root.access = ~std::uint32_t{0};
@@ -166,6 +166,10 @@ const MemoryRegistry::OpenKey* MemoryRegistry::resolve(RegHandle key) {
     return it == open_.end() ? nullptr : &it->second;
 }
 
+std::u16string MemoryRegistry::outward(std::u16string_view name) const {
+    return text_ == RegistryText::ThroughAnsi ? throughAnsi(name) : std::u16string(name);
+}
+
 RegHandle MemoryRegistry::newHandle() {
     // Handles are positive multiples of 4, like the system's; the search skips ones still open.
     do {
@@ -186,7 +190,7 @@ std::int32_t MemoryRegistry::openKey(RegHandle parent, std::u16string_view subKe
         return regstatus::success;
     }
 
-    const std::u16string path = throughAnsi(subKey);
+    const std::u16string path = outward(subKey);
     std::u16string_view rest = path;
     if (!rest.empty() && rest.front() == u'\\') {
         // Only the classes root, a merged view, tolerates a leading backslash.
@@ -221,16 +225,19 @@ std::int32_t MemoryRegistry::queryValue(RegHandle key, std::u16string_view name,
         return regstatus::invalidHandle;
     if ((k->access & regaccess::queryValue) == 0)
         return regstatus::accessDenied;
-    const auto it = k->node->findValue(throughAnsi(name));
+    const auto it = k->node->findValue(outward(name));
     if (it == k->node->values.end())
         return regstatus::fileNotFound;
     value.type = it->type;
     std::string data = regtype::isText(it->type) ? utf16LeToAnsi(it->data) : it->data;
+    value.text.reset();
     if (data.size() > capacity) {
         value.data.clear();
         return regstatus::moreData;
     }
     value.data = std::move(data);
+    if (text_ == RegistryText::Whole && regtype::isText(it->type))
+        value.text = fromUtf16(it->data);
     return regstatus::success;
 }
 
@@ -243,7 +250,7 @@ std::int32_t MemoryRegistry::enumKey(RegHandle key, std::uint32_t index, std::si
         return regstatus::accessDenied;
     if (index >= k->node->children.size())
         return regstatus::noMoreItems;
-    std::u16string childName = throughAnsi(k->node->children[index]->name);
+    std::u16string childName = outward(k->node->children[index]->name);
     if (childName.size() + 1 > nameCapacity)
         return regstatus::moreData;
     name = std::move(childName);

@@ -1,7 +1,7 @@
 // A read-only registry held in memory and filled from registry scripts (.reg files). It answers
 // like the system's ANSI registry functions: key and value names compare without regard to case,
 // sub-keys enumerate in the registry's sorted order, and names and text data pass through the ANSI
-// code page on their way out.
+// code page on their way out, unless it is asked to keep every character.
 #pragma once
 
 #include "velkor6/platform/registry.h"
@@ -16,9 +16,13 @@ namespace velkor6 {
 
 struct RegStatement;
 
+// ThroughAnsi: what the ANSI functions of Windows give ("?" for characters the code page lacks).
+// Whole: names keep every character, and text values carry them in RegValue::text too.
+enum class RegistryText { ThroughAnsi, Whole };
+
 class MemoryRegistry : public Registry {
 public:
-    MemoryRegistry();
+    explicit MemoryRegistry(RegistryText text = RegistryText::ThroughAnsi);
     ~MemoryRegistry() override;
 
     // Applies the statements of a script (its bytes, in any of the encodings the registry editor
@@ -50,10 +54,12 @@ private:
     std::shared_ptr<Node> find(RegHandle root, std::u16string_view path);
     std::shared_ptr<Node> findOrCreate(RegHandle root, std::u16string_view path);
     RegHandle newHandle();
+    std::u16string outward(std::u16string_view name) const;
 
     std::array<OpenKey, 7> roots_;
     std::map<RegHandle, OpenKey> open_;
     RegHandle lastHandle_ = 0;
+    RegistryText text_;
 };
 
 } // namespace velkor6

@@ -133,6 +133,8 @@ TEST_F(FilesOnWindows, FileStreamAndExistence) {
     EXPECT_EQ(l.vkrFileStream(u"C:\\Data\\missing.txt"), u"");
     EXPECT_EQ(l.vkrFileStream(u"C:\\Data"), u"");
 
+    // Replacing a file in the code page keeps the code page.
+    fp.files.addFile(u"C:\\Data\\out.txt", "\xE4");
     l.vkrFileStreamLet(u"C:\\Data\\out.txt", u"Grüße");
     EXPECT_EQ(fp.files.readFile(u"C:\\Data\\out.txt"), "Gr\xFC\xDF"
                                                        "e\r\n");

@@ -73,5 +73,30 @@ TEST(PosixRegistry, ReadsTheScriptsOfItsFolder) {
     EXPECT_EQ(l.regSubKeyCount(hkcu, std::u16string(key) + u"\\Leaf"), 2);
 }
 
+TEST(PosixRegistry, NamesAndTextsKeepEveryCharacter) {
+    const fake::TempFolder temp;
+    // UTF-8 without a mark, as editors here save it.
+    temp.write("city.reg", "Windows Registry Editor Version 5.00\n"
+                           "[HKEY_CURRENT_USER\\Software\\\xC5\x81\xC3\xB3"
+                           "d\xC5\xBA]\n"
+                           "\"Name\"=\"\xC5\x81\xC3\xB3"
+                           "d\xC5\xBA\"\n"
+                           "\"\xD0\x96\"=\"\xD0\x96\xD1\x83\xD0\xBA\"\n"
+                           "[HKEY_CURRENT_USER\\Software\\\xC5\x81\xC3\xB3"
+                           "d\xC5\xBA\\\xD0\x96]\n");
+    auto platform = std::make_unique<Platform>();
+    platform->registry = posix::createFileRegistry(temp.path());
+    lib l(std::make_shared<Module>(std::move(platform), Locale::englishUS()));
+    const std::u16string key = u"Software\\\u0141\u00F3d\u017A";
+    EXPECT_EQ(l.regGetString(hkcu, key, u"Name"), u"\u0141\u00F3d\u017A");
+    EXPECT_EQ(l.regGetValue(hkcu, u"SOFTWARE\\\u0142\u00D3D\u017A", u"\u0436"),
+              Variant(u"\u0416\u0443\u043A"));
+    VariantArray keys;
+    l.regFindKeys(hkcu, key, keys);
+    ASSERT_EQ(keys.items.size(), 1u);
+    EXPECT_EQ(keys.items[0].string(), u"\u0416");
+    EXPECT_EQ(l.regSubKeyCount(hkcu, key), 2);
+}
+
 } // namespace
 } // namespace velkor6

@@ -63,6 +63,16 @@ TEST_F(GlobalVar, CharactersStandForTheirAnsiBytes) {
               Variant(text(u"Deflate", u"12345")));
 }
 
+TEST_F(GlobalVar, PackedTextIsWindows1252OneCharacterPerByte) {
+    // Stored compressed text moves between systems unchanged: each character is the
+    // Windows-1252 character of one byte, also where files are UTF-8. "ä€" is bytes E4 80, codes
+    // 256 228 128 257 0, packed C9 01 0A 08 ("É" and three controls).
+    EXPECT_EQ(text(u"Deflate", u"\u00E4\u20AC"), u"\u00C9\x01\x0A\x08");
+    EXPECT_EQ(text(u"Inflate", u"\u00C9\x01\x0A\x08"), u"\u00E4\u20AC");
+    // Characters outside the code page are "?" in the packed text, not UTF-8 bytes.
+    EXPECT_EQ(text(u"Inflate", text(u"Deflate", u"\u0141\u00F3d\u017A")), u"?\u00F3d?");
+}
+
 TEST_F(GlobalVar, OtherNamesAndMissingText) {
     for (const char16_t* name : {u"Compress", u"", u"Deflate ", u"GetFontList"}) {
         const VbError e = error({Variant(name), Variant(u"x")});

@@ -2,7 +2,12 @@
 #include "fake/temp_folder.h"
 #include "velkor6/lib.h"
 
+#include <chrono>
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace velkor6 {
@@ -60,6 +65,31 @@ TEST_F(FilesOnPosix, FilesAndAttributes) {
     EXPECT_NE(shown.find("[velkor6] Diese Datei ist versteckt und kann deshalb nicht"),
               std::string::npos);
     EXPECT_NE(shown.find("Der eingegebene Name zeigt auf ein Verzeichnis"), std::string::npos);
+}
+
+TEST_F(FilesOnPosix, WholeFileReadsTakeRegularFilesOnly) {
+    ASSERT_EQ(::mkfifo((tmp.path() / "fifo").c_str(), 0600), 0);
+    const std::u16string names[] = {tmp.u16("fifo"), u"/dev/zero", tmp.u16("missing")};
+    // In a child, so that a read that never ends fails the test instead of hanging it.
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        bool ok = true;
+        for (const std::u16string& name : names)
+            ok = ok && l.vkrFileStream(name).empty() && l.prfTextStream(name).empty();
+        ::_exit(ok ? 0 : 1);
+    }
+    int status = 0;
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (::waitpid(child, &status, WNOHANG) == 0) {
+        if (std::chrono::steady_clock::now() > deadline) {
+            ::kill(child, SIGKILL);
+            ::waitpid(child, &status, 0);
+            FAIL() << "reading a pipe or a device did not return";
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
 }
 
 TEST_F(FilesOnPosix, FindFileTriesAFoldersFilesFirst) {

@@ -62,7 +62,7 @@ public:
     // Attributes, size and time of a file or folder; nullopt when it cannot be found.
     virtual std::optional<FileStatus> status(std::u16string_view path) = 0;
 
-    // The whole content; nullopt when it cannot be read (missing, a folder, no access).
+    // The whole content; nullopt when it cannot be read (missing, no regular file, no access).
     virtual std::optional<std::string> readFile(std::u16string_view path) = 0;
     // Creates or replaces the file with these bytes.
     virtual bool writeFile(std::u16string_view path, std::string_view bytes) = 0;

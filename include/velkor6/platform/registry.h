@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -72,6 +73,9 @@ inline constexpr std::int32_t noMoreItems = 259;
 struct RegValue {
     std::uint32_t type = regtype::none;
     std::string data; // bytes, as the ANSI query function returns them
+    // Text data, where the service keeps every character (no code page in between): one
+    // character for each byte of data, the characters data stands for.
+    std::optional<std::u16string> text;
 };
 
 class Registry {

@@ -33,7 +33,9 @@ bool hasRegExtension(const std::filesystem::path& file) {
 
 class FileRegistry final : public MemoryRegistry {
 public:
-    explicit FileRegistry(std::filesystem::path folder) : folder_(std::move(folder)) {}
+    // Without a code page in between on this system, names and texts keep every character.
+    explicit FileRegistry(std::filesystem::path folder)
+        : MemoryRegistry(RegistryText::Whole), folder_(std::move(folder)) {}
 
     std::int32_t queryValue(RegHandle key, std::u16string_view name, std::size_t capacity,
                             RegValue& value) override {

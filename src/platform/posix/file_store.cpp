@@ -4,13 +4,17 @@
 #include "platform/posix/utf8_path.h"
 
 #include <cerrno>
+#include <charconv>
 #include <climits>
 #include <cstdlib>
 #include <ctime>
+#include <dirent.h>
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
 namespace velkor6::posix {
 namespace {
@@ -39,6 +43,43 @@ std::string writeTarget(const std::string& path) {
 bool overwrite(const std::string& path, std::string_view bytes) {
     Fd fd(::open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC));
     return fd && writeAll(fd.get(), bytes) && fd.close();
+}
+
+// The temporary file of a process writing path.
+std::string tempName(const std::string& path, pid_t pid) {
+    return path + "." + std::to_string(pid) + ".tmp";
+}
+
+// Removes the temporary files that writers of path left when they died before their rename.
+// Writers hold the lock, so none of another living process is in use; a file whose number
+// belongs to a living process (a number used again) is left, it goes once that process ends.
+void removeStaleTemps(const std::string& path) {
+    const std::size_t slash = path.rfind('/');
+    const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
+    const std::string prefix = (slash == std::string::npos ? path : path.substr(slash + 1)) + ".";
+    constexpr std::string_view suffix = ".tmp";
+    std::vector<std::string> stale;
+    {
+        const std::unique_ptr<DIR, int (*)(DIR*)> dir(::opendir(folder.c_str()), ::closedir);
+        if (dir == nullptr)
+            return;
+        while (const dirent* d = ::readdir(dir.get())) {
+            const std::string_view name(d->d_name);
+            if (!name.starts_with(prefix) || !name.ends_with(suffix))
+                continue;
+            const std::string_view digits =
+                name.substr(prefix.size(), name.size() - prefix.size() - suffix.size());
+            pid_t pid = 0;
+            const auto [end, ec] =
+                std::from_chars(digits.data(), digits.data() + digits.size(), pid);
+            if (ec != std::errc() || end != digits.data() + digits.size() || pid <= 0)
+                continue;
+            if (pid != ::getpid() && ::kill(pid, 0) != 0 && errno == ESRCH)
+                stale.emplace_back(name);
+        }
+    }
+    for (const std::string& name : stale)
+        ::unlink((folder + name).c_str());
 }
 
 class FlockLock final : public FileStore::Lock {
@@ -111,7 +152,8 @@ bool replaceFile(const std::string& path, std::string_view bytes,
     if (exists && (S_ISDIR(old.st_mode) || ::access(target.c_str(), W_OK) != 0))
         return false;
 
-    const std::string temp = target + "." + std::to_string(::getpid()) + ".tmp";
+    removeStaleTemps(target);
+    const std::string temp = tempName(target, ::getpid());
     int raw = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (raw < 0 && errno == EEXIST) {
         // Left by a process of the same number that died before its rename.

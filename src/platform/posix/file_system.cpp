@@ -111,9 +111,11 @@ public:
     std::optional<std::string> readFile(std::u16string_view path) override {
         if (path.empty())
             return std::nullopt;
-        Fd fd(::open(nativePath(path).c_str(), O_RDONLY | O_CLOEXEC));
+        // Regular files only: a pipe would wait for a writer forever, a device like /dev/zero never
+        // ends. O_NONBLOCK keeps the open itself from waiting on a pipe; a regular file ignores it.
+        Fd fd(::open(nativePath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
         struct stat st {};
-        if (!fd || ::fstat(fd.get(), &st) != 0 || S_ISDIR(st.st_mode))
+        if (!fd || ::fstat(fd.get(), &st) != 0 || !S_ISREG(st.st_mode))
             return std::nullopt;
         std::string bytes;
         bytes.reserve(static_cast<std::size_t>(st.st_size));
