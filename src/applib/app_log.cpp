@@ -2,7 +2,8 @@
 
 #include "applib/error_display.h"
 #include "core/text.h"
-#include "core/text_file.h"
+#include "platform/ansi.h"
+#include "platform/text_file.h"
 #include "velkor6/applib.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 // that settings files behave alike on every platform.
 #pragma once
 
-#include "core/text_file.h"
+#include "platform/text_file.h"
 #include "velkor6/platform/settings_files.h"
 
 #include <cstddef>

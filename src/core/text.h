@@ -9,19 +9,14 @@ namespace velkor6 {
 
 enum class Compare { Binary = 0, Text = 1 };
 
-// Encodings at the edges: UTF-8 for the CLI and POSIX file names, the ANSI code page where
-// bytes become characters (the process's code page on Windows, Windows-1252 elsewhere).
+// Encodings at the edges: UTF-8 for the CLI and POSIX file names (the ANSI code page is the
+// platform's: platform/ansi.h).
 std::string toUtf8(std::u16string_view s);
 std::u16string fromUtf8(std::string_view s);
-bool isValidUtf8(std::string_view s);        // no ill-formed, overlong or surrogate sequence
-std::string toAnsi(std::u16string_view s);   // characters the code page lacks become '?'
-std::u16string fromAnsi(std::string_view s); // in a single-byte code page, one byte a character
+bool isValidUtf8(std::string_view s); // no ill-formed, overlong or surrogate sequence
 // UTF-16 code units from bytes (a mark, if any, is the caller's to skip); an odd last byte is
 // dropped.
 std::u16string fromUtf16(std::string_view bytes, bool bigEndian = false);
-char16_t ansiToChar(unsigned char b);
-// The code page's byte for a character, or -1 when it has none.
-int charToAnsi(char16_t c);
 
 // Case folding for text comparison: what a user expects for Latin text, including accented
 // letters (ä/Ä, é/É); ß stays ß, since it has no single-character capital in VB's world.

@@ -1,7 +1,7 @@
 #include "files/file_io.h"
 
 #include "core/text.h"
-#include "core/text_file.h"
+#include "platform/text_file.h"
 
 namespace velkor6::files {
 

@@ -2,6 +2,7 @@
 
 #include "core/convert.h"
 #include "core/text.h"
+#include "platform/ansi.h"
 #include "values/hex.h"
 #include "values/typed_conversion.h"
 

@@ -4,7 +4,7 @@
 #include "core/date.h"
 #include "core/format.h"
 #include "core/text.h"
-#include "core/text_file.h"
+#include "platform/text_file.h"
 #include "velkor6/vb_error.h"
 
 #include <cmath>

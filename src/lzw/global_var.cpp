@@ -3,6 +3,7 @@
 #include "core/convert.h"
 #include "core/text.h"
 #include "lzw/lzw.h"
+#include "platform/ansi.h"
 #include "velkor6/vb_error.h"
 
 namespace velkor6::lzw {

@@ -1,6 +1,7 @@
 #include "platform/memory_registry.h"
 
 #include "core/text.h"
+#include "platform/ansi.h"
 #include "platform/reg_parser.h"
 
 #include <algorithm>

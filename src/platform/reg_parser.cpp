@@ -1,6 +1,7 @@
 #include "platform/reg_parser.h"
 
 #include "core/text.h"
+#include "platform/ansi.h"
 
 #include <utility>
 

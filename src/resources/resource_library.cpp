@@ -3,6 +3,7 @@
 #include "core/text.h"
 #include "files/dir_listing.h"
 #include "files/path_style.h"
+#include "platform/ansi.h"
 #include "resources/resource_text.h"
 
 #include <algorithm>

@@ -2,6 +2,7 @@
 
 #include "core/convert.h"
 #include "core/text.h"
+#include "platform/ansi.h"
 #include "velkor6/vb_error.h"
 
 #include <cmath>

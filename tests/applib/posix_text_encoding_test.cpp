@@ -1,7 +1,7 @@
 // Files meant for people on a system without a code page of its own: UTF-8 when the whole file is
 // valid UTF-8, Windows-1252 otherwise, written back in the encoding they came in.
 #include "applib/app_fixture.h"
-#include "core/text_file.h"
+#include "platform/text_file.h"
 
 namespace velkor6::apptest {
 namespace {

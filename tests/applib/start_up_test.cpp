@@ -1,7 +1,7 @@
 #include "applib/app_fixture.h"
 #include "applib/app_log.h"
 #include "applib/host_app.h"
-#include "core/text_file.h"
+#include "platform/text_file.h"
 #include "velkor6/enums.h"
 
 namespace velkor6::apptest {

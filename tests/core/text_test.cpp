@@ -1,5 +1,6 @@
 #include "core/text.h"
 #include "fake/error_of.h"
+#include "platform/ansi.h"
 #include "velkor6/vb_error.h"
 
 #include <gtest/gtest.h>

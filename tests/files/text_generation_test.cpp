@@ -1,9 +1,9 @@
 #include "core/date.h"
 #include "core/text.h"
-#include "core/text_file.h"
 #include "fake/fake_platform.h"
 #include "files/text_generation.h"
 #include "lib/lib_members.h"
+#include "platform/text_file.h"
 #include "velkor6/lib.h"
 #include "velkor6/vb_error.h"
 

@@ -1,5 +1,6 @@
 #include "core/text.h"
 #include "lib/lib_members.h"
+#include "platform/ansi.h"
 #include "velkor6/vb_error.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +16,8 @@ protected:
         std::vector<Argument> args;
         for (Variant& v : values)
             args.push_back({&v, u""});
-        return invoke(libMembers(), target, u"vkrGlobalVar", CallKind::Method, args, target.locale());
+        return invoke(libMembers(), target, u"vkrGlobalVar", CallKind::Method, args,
+                      target.locale());
     }
     std::u16string text(std::u16string_view name, std::u16string_view s) {
         return call({Variant(name), Variant(s)}).string();

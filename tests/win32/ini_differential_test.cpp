@@ -10,6 +10,7 @@
 #include "applib/ini_document.h"
 #include "applib/profile_file.h"
 #include "core/text.h"
+#include "platform/ansi.h"
 #include "platform/win32/wide.h"
 #include "velkor6/platform/platform.h"
 

@@ -1,6 +1,7 @@
 // Text through the ANSI code page follows the process's code page. The Wine tests run this
 // suite again under Cyrillic and Japanese locales (code pages 1251 and 932).
 #include "core/text.h"
+#include "platform/ansi.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>

@@ -3,6 +3,7 @@
 #include "core/convert.h"
 #include "core/date.h"
 #include "core/text.h"
+#include "platform/ansi.h"
 #include "velkor6/vb_error.h"
 
 #include <charconv>

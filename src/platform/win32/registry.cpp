@@ -1,5 +1,6 @@
 // The registry through the ANSI advapi32 functions, whose results the registry members report.
 #include "core/text.h"
+#include "platform/ansi.h"
 #include "platform/win32/services.h"
 
 #include <windows.h>

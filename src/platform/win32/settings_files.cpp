@@ -1,6 +1,7 @@
 // Settings files through the ANSI private-profile functions, which the applications sharing
 // these files use too.
 #include "core/text.h"
+#include "platform/ansi.h"
 #include "platform/win32/services.h"
 
 #include <windows.h>

@@ -1,7 +1,9 @@
 // The ANSI code page where no system supplies one: Windows-1252, the code page of the
 // Western European Windows installations whose files and registries the library reads.
+#include "platform/ansi.h"
+
 #include "core/text.h"
-#include "core/text_file.h"
+#include "platform/text_file.h"
 
 #include <array>
 

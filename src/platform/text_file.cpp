@@ -1,6 +1,7 @@
-#include "core/text_file.h"
+#include "platform/text_file.h"
 
 #include "core/text.h"
+#include "platform/ansi.h"
 
 #include <algorithm>
 

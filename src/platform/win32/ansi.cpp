@@ -1,8 +1,10 @@
 // The ANSI code page on Windows: the process's own (CP_ACP), converted by the system exactly
 // as the "A" functions and VB's string conversions do it, best-fit mappings included
 // ("Ā" becomes "A" where the code page has no "Ā").
+#include "platform/ansi.h"
+
 #include "core/text.h"
-#include "core/text_file.h"
+#include "platform/text_file.h"
 
 #include <windows.h>
 
