@@ -1,10 +1,8 @@
 #include "applib/app_log.h"
 
-#include "applib/error_display.h"
 #include "core/text.h"
 #include "platform/ansi.h"
 #include "platform/text_file.h"
-#include "velkor6/applib.h"
 
 #include <algorithm>
 
@@ -17,16 +15,6 @@ constexpr std::size_t printZone = 14;
 void appendTwoDigits(std::u16string& out, int n) {
     out += static_cast<char16_t>(u'0' + n / 10 % 10);
     out += static_cast<char16_t>(u'0' + n % 10);
-}
-
-// An entry goes in the encoding the log is in. ASCII reads alike in both encodings a log can have,
-// so only an entry with other characters needs to look at the file. A Windows-1252 log stays so:
-// an entry in UTF-8 would leave a file that is neither.
-std::string entryBytes(FileSystem& fs, std::u16string_view log, std::u16string_view entry) {
-    if (std::all_of(entry.begin(), entry.end(), [](char16_t c) { return c < 0x80; }))
-        return toAnsi(entry);
-    const auto existing = fs.readFile(log);
-    return encodeText(entry, existing ? plainTextEncoding(*existing) : newTextEncoding(), false);
 }
 
 } // namespace
@@ -57,27 +45,16 @@ std::u16string errorText(std::int32_t number, std::u16string_view description,
            u"' (Source=" + std::u16string(source) + u")";
 }
 
+// An entry goes in the encoding the log is in. ASCII reads alike in both encodings a log can have,
+// so only an entry with other characters needs to look at the file. A Windows-1252 log stays so:
+// an entry in UTF-8 would leave a file that is neither.
+std::string entryBytes(FileSystem& fs, std::u16string_view log, std::u16string_view entry) {
+    if (std::all_of(entry.begin(), entry.end(), [](char16_t c) { return c < 0x80; }))
+        return toAnsi(entry);
+    const auto existing = fs.readFile(log);
+    return encodeText(entry, existing ? plainTextEncoding(*existing) : newTextEncoding(), false);
+}
+
 } // namespace app
-
-void applib::logAction(std::u16string_view sMessage) {
-    // The log must never disturb the application: an entry that cannot be written is lost.
-    try {
-        Platform& p = module_->platform();
-        const std::u16string log = logFile();
-        const std::u16string entry = app::logLine(splitDate(p.clock->now()), sMessage);
-        const std::string bytes = app::entryBytes(*p.fileSystem, log, entry);
-        // One append per entry, opened and closed each time: the log is complete on disk after
-        // every call, and entries of two processes never interleave.
-        p.fileSystem->appendFile(log, bytes);
-    } catch (const std::exception&) {
-    }
-}
-
-void applib::logError(std::int32_t lError, std::u16string_view sErrDesc,
-                      std::u16string_view sErrSrc, bool bShowMsgBox) {
-    logAction(app::errorText(lError, sErrDesc, sErrSrc));
-    if (bShowMsgBox)
-        app::showError(*module_, lError, sErrDesc, sErrSrc);
-}
 
 } // namespace velkor6

@@ -42,34 +42,4 @@ void applib::init(const HostApp& app, std::u16string_view appName) {
               u", append=" + (m.keepLogFiles() ? u"yes" : u"no") + u")");
 }
 
-std::u16string applib::iniFile() {
-    if (iniFile_.empty()) {
-        Platform& p = module_->platform();
-        FileSystem& fs = *p.fileSystem;
-        const PathStyle style = fs.pathStyle();
-        const std::u16string name = appName_ + u".ini";
-        const std::u16string candidate = files::getFullPath(dataFolder_, name, style);
-        // Installations that keep their settings in the system folder put them in "ostrak".
-        const std::u16string ostrak =
-            files::getFullPath(p.environment->specialFolder(CSIDL_SYSTEMX86), u"ostrak", style);
-        const std::u16string alternative = files::getFullPath(ostrak, name, style);
-        if (files::fileExists(fs, alternative) && !files::fileExists(fs, candidate)) {
-            dataFolder_ = ostrak;
-            iniFile_ = alternative;
-        } else {
-            iniFile_ = candidate;
-        }
-    }
-    return iniFile_;
-}
-
-std::u16string applib::logFile() {
-    if (logFile_.empty()) {
-        Module& m = *module_;
-        logFile_ =
-            files::tempDir(*m.platform().fileSystem, m.tempFolderCache()) + appName_ + u".log";
-    }
-    return logFile_;
-}
-
 } // namespace velkor6

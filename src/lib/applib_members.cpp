@@ -7,6 +7,9 @@ namespace velkor6::dispatch {
 const Table<applib>& applibMembers() {
     static const Table<applib> table = [] {
         Table<applib> t;
+        addSettingMembers(t);
+        addWindowMemoryMembers(t);
+        addLogMembers(t);
         addAppContextMembers(t);
         addLanguageMembers(t);
         addApplibResourceMembers(t);

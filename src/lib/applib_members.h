@@ -9,7 +9,10 @@ namespace velkor6::dispatch {
 const Table<applib>& applibMembers();
 
 // One function per subsystem adds that subsystem's rows.
-void addAppContextMembers(Table<applib>& table); // settings, window memory, log, paths
+void addSettingMembers(Table<applib>& table);
+void addWindowMemoryMembers(Table<applib>& table);
+void addLogMembers(Table<applib>& table);
+void addAppContextMembers(Table<applib>& table); // placeholder paths and the editor
 void addLanguageMembers(Table<applib>& table);   // language and resources
 // Resource libraries: getLanguagesList, loadRes.
 void addApplibResourceMembers(Table<applib>& table);

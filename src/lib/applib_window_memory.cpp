@@ -1,6 +1,8 @@
-// Window positions and list-view column widths remembered in the settings file.
+// Window positions and list-view column widths remembered in the settings file: the `applib`
+// members and their rows.
 #include "controls/list_view.h"
 #include "core/convert.h"
+#include "lib/applib_members.h"
 #include "velkor6/applib.h"
 #include "velkor6/vb_error.h"
 
@@ -143,3 +145,72 @@ void applib::loadWindowPos(std::int32_t hwnd, std::u16string_view formname, bool
 }
 
 } // namespace velkor6
+
+namespace velkor6::dispatch {
+namespace {
+
+using T = VarType;
+
+constexpr std::int32_t currentUserKey = -2147483647;
+
+} // namespace
+
+void addWindowMemoryMembers(Table<applib>& t) {
+    t.push_back(
+        {5,
+         u"loadColWidths",
+         CallKind::Method,
+         {required(u"oListView", T::Object), required(u"sPropName", T::String),
+          optional(u"lRegKey", T::Long, currentUserKey), optional(u"sRegSubKey", T::String, u"")},
+         T::Empty,
+         [](applib& a, Args& r) -> Variant {
+             a.loadColWidths(r[0].object(), r.str(1), r.i32(2), r.str(3));
+             return {};
+         },
+         u"Restores the column widths stored under sPropName in section ColWidths.",
+         u"The widths are pixels separated by \";\", from the first column on; an entry "
+         u"that is no number leaves its column alone. lRegKey and sRegSubKey are not "
+         u"used."});
+    t.push_back({6,
+                 u"saveColWidths",
+                 CallKind::Method,
+                 {required(u"oListView", T::Object), required(u"sPropName", T::String),
+                  optional(u"lRegKey", T::Long, currentUserKey)},
+                 T::Empty,
+                 [](applib& a, Args& r) -> Variant {
+                     a.saveColWidths(r[0].object(), r.str(1), r.i32(2));
+                     return {};
+                 },
+                 u"Stores the list view's column widths under sPropName in section ColWidths.",
+                 u"lRegKey is not used: the widths always go to the settings file."});
+    t.push_back({7,
+                 u"loadWindowPos",
+                 CallKind::Method,
+                 {required(u"hwnd", T::Long), required(u"formname", T::String),
+                  optional(u"ignoresize", T::Boolean, false)},
+                 T::Empty,
+                 [](applib& a, Args& r) -> Variant {
+                     a.loadWindowPos(r.i32(0), r.str(1), r.b(2));
+                     return {};
+                 },
+                 u"Moves the window to the rectangle stored in section formname and restores "
+                 u"its maximised or minimised state.",
+                 u"The rectangle is kept inside the work area of the nearest monitor. With "
+                 u"ignoresize only the position is restored. Nothing moves when no rectangle "
+                 u"was stored."});
+    t.push_back({8,
+                 u"saveWindowPos",
+                 CallKind::Method,
+                 {required(u"hwnd", T::Long), required(u"formname", T::String)},
+                 T::Empty,
+                 [](applib& a, Args& r) -> Variant {
+                     a.saveWindowPos(r.i32(0), r.str(1));
+                     return {};
+                 },
+                 u"Stores the window's state and, unless it is maximised or minimised, its "
+                 u"rectangle in twips in section formname.",
+                 u"Keys Maximized, Minimized, Left, Top, Width, Height. A window with a parent "
+                 u"is stored relative to the parent."});
+}
+
+} // namespace velkor6::dispatch
