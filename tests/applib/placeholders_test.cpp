@@ -68,7 +68,8 @@ TEST_F(Placeholders, EditingOpensTheFileWithItsRegisteredEditor) {
     fp.shell.setExecuteResult(31);
     app().editINIFile();
     ASSERT_EQ(fp.shell.started().size(), 1u);
-    EXPECT_EQ(fp.shell.started()[0], u"editor.exe /e C:\\Apps\\Sales\\Sales.ini");
+    EXPECT_EQ(fp.shell.started()[0].command, u"editor.exe /e %1");
+    EXPECT_EQ(fp.shell.started()[0].file, u"C:\\Apps\\Sales\\Sales.ini");
 
     // A command without "%1" falls back to opening the file.
     ASSERT_TRUE(fp.registry.load("REGEDIT4\r\n\r\n"

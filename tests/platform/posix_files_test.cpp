@@ -38,7 +38,7 @@ TEST_F(FilesOnPosix, PathsUseSlashesAndNoDrives) {
     const std::u16string temp = l.vkrTempDir();
     ASSERT_FALSE(temp.empty());
     EXPECT_EQ(temp.back(), u'/');
-    EXPECT_EQ(l.vkrSystemDir(), u"/usr");
+    EXPECT_EQ(l.vkrSystemDir(), u"/etc");
 }
 
 TEST_F(FilesOnPosix, FilesAndAttributes) {

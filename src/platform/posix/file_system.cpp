@@ -241,7 +241,9 @@ public:
         return fromNative(tmp != nullptr && *tmp != '\0' ? tmp : "/tmp");
     }
 
-    std::u16string windowsFolder() override { return u"/usr"; }
+    // The system's settings folder, as the Windows folder held win.ini and system.ini; it holds
+    // none of the folders that stand in for the program-files folders.
+    std::u16string windowsFolder() override { return u"/etc"; }
 
     std::vector<Volume> volumes() override {
         std::ifstream in("/proc/self/mounts");
