@@ -41,6 +41,13 @@ TEST_F(Placeholders, AFolderTheSystemCannotGiveDropsOut) {
     EXPECT_EQ(app().relativePath(u"\\Ostrakware\\x"), u"\\Ostrakware\\x");
 }
 
+TEST_F(Placeholders, AFolderOfOneCharacterIsNoFolderToReplace) {
+    for (const std::u16string_view path : {u".", u"\\"}) {
+        auto other = library().vkrInitApp(HostApp{std::u16string(path), u"Dot", 1, 0, 0}, u"Dot");
+        EXPECT_EQ(other->relativePath(u"v1.2 .\\a\\b"), u"v1.2 .\\a\\b");
+    }
+}
+
 const std::string iniEditor = "REGEDIT4\r\n\r\n"
                               "[HKEY_CLASSES_ROOT\\.ini]\r\n@=\"inifile\"\r\n\r\n"
                               "[HKEY_CLASSES_ROOT\\inifile\\shell\\edit\\command]\r\n"
