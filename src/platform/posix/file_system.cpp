@@ -11,6 +11,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <fstream>
+#include <memory>
 #include <sstream>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -226,6 +227,15 @@ public:
         if (p.empty() || p[0] != '/')
             p = workingDirectory() + "/" + p;
         return fromNative(normalise(p));
+    }
+
+    std::u16string resolvedPath(std::u16string_view path) override {
+        const std::u16string full = fullPath(path);
+        char* real = ::realpath(nativePath(full).c_str(), nullptr);
+        if (real == nullptr)
+            return full;
+        const std::unique_ptr<char, decltype(&std::free)> owned(real, &std::free);
+        return fromNative(real);
     }
 
     std::u16string currentDirectory() override { return fromNative(workingDirectory()); }
