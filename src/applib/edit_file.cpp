@@ -13,14 +13,6 @@ namespace {
 constexpr std::int32_t showMinimized = 6;
 constexpr std::int32_t windowMinimizedWithFocus = 2;
 
-std::u16string replaceAll(std::u16string text, std::u16string_view find,
-                          std::u16string_view replacement) {
-    for (std::size_t at = text.find(find); at != std::u16string::npos;
-         at = text.find(find, at + replacement.size()))
-        text.replace(at, find.size(), replacement);
-    return text;
-}
-
 } // namespace
 
 void openForEditing(Platform& platform, std::u16string_view path, const Locale& loc) {
@@ -42,7 +34,7 @@ void openForEditing(Platform& platform, std::u16string_view path, const Locale& 
         if (shell.execute(u"edit", file, u"", info.lpPath, showMinimized) > 32)
             return;
         if (command.find(u"%1") != std::u16string::npos)
-            shell.start(replaceAll(command, u"%1", path), windowMinimizedWithFocus);
+            shell.startWithFile(command, path, windowMinimizedWithFocus);
         else
             shell.execute(u"open", file, u"", info.lpPath, showMinimized);
     } catch (const std::exception&) {

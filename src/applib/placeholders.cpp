@@ -1,6 +1,7 @@
 #include "applib/placeholders.h"
 
 #include "core/text.h"
+#include "files/path_style.h"
 #include "files/paths.h"
 #include "velkor6/applib.h"
 #include "velkor6/enums.h"
@@ -14,9 +15,13 @@ std::u16string companyFolder(std::u16string base, PathStyle style) {
     return base.empty() ? base : files::getFullPath(base, u"Ostrakware", style);
 }
 
-bool matchesAt(std::u16string_view text, std::size_t at, std::u16string_view find) {
+bool matchesAt(std::u16string_view text, std::size_t at, std::u16string_view find,
+               bool ignoreCase) {
+    const std::u16string_view here = text.substr(at, find.size());
+    if (!ignoreCase)
+        return here == find;
     for (std::size_t k = 0; k < find.size(); ++k) {
-        if (foldCase(text[at + k]) != foldCase(find[k]))
+        if (foldCase(here[k]) != foldCase(find[k]))
             return false;
     }
     return true;
@@ -37,14 +42,14 @@ std::vector<Placeholder> placeholderTable(Environment& env, PathStyle style,
     };
 }
 
-std::u16string replaceIgnoringCase(std::u16string_view text, std::u16string_view find,
-                                   std::u16string_view replacement) {
+std::u16string replaceEvery(std::u16string_view text, std::u16string_view find,
+                            std::u16string_view replacement, bool ignoreCase) {
     if (find.empty() || find.size() > text.size())
         return std::u16string(text);
     std::u16string result;
     std::size_t i = 0;
     while (i + find.size() <= text.size()) {
-        if (matchesAt(text, i, find)) {
+        if (matchesAt(text, i, find, ignoreCase)) {
             result += replacement;
             i += find.size();
         } else {
@@ -55,10 +60,14 @@ std::u16string replaceIgnoringCase(std::u16string_view text, std::u16string_view
     return result;
 }
 
-std::u16string withPlaceholders(std::u16string_view text, const std::vector<Placeholder>& table) {
+std::u16string withPlaceholders(std::u16string_view text, const std::vector<Placeholder>& table,
+                                PathStyle style) {
+    constexpr std::size_t shortestFolder = 2;
     std::u16string s(text);
-    for (const auto& p : table)
-        s = replaceIgnoringCase(s, p.folder, p.name);
+    for (const auto& p : table) {
+        if (p.folder.size() >= shortestFolder)
+            s = replaceEvery(s, p.folder, p.name, files::ignoresCase(style));
+    }
     return s;
 }
 
@@ -70,7 +79,7 @@ std::u16string withoutPlaceholders(std::u16string_view text,
             break;
         // A folder the system cannot give leaves its placeholder in the text.
         if (!p.folder.empty())
-            s = replaceIgnoringCase(s, p.name, p.folder);
+            s = replaceEvery(s, p.name, p.folder, true);
     }
     return s;
 }
@@ -81,8 +90,9 @@ std::u16string applib::relativePath(std::u16string_view sFilename) {
     if (sFilename.empty())
         return {};
     Platform& p = module_->platform();
-    return app::withPlaceholders(
-        sFilename, app::placeholderTable(*p.environment, p.fileSystem->pathStyle(), appPath_));
+    const PathStyle style = p.fileSystem->pathStyle();
+    return app::withPlaceholders(sFilename, app::placeholderTable(*p.environment, style, appPath_),
+                                 style);
 }
 
 std::u16string applib::absolutePath(std::u16string_view sFilename) {

@@ -21,15 +21,18 @@ struct Placeholder {
 std::vector<Placeholder> placeholderTable(Environment& env, PathStyle style,
                                           std::u16string_view appPath);
 
-// Every occurrence of a folder, anywhere in the text and in any letter case, becomes its
-// placeholder.
-std::u16string withPlaceholders(std::u16string_view text, const std::vector<Placeholder>& table);
-// The reverse; stops as soon as no "%" is left. A placeholder without a folder stays.
+// Every occurrence of a folder, anywhere in the text, becomes its placeholder; letter case
+// counts as the file system counts it. A folder of fewer than two characters ("." or "/") is
+// passed over: it would turn every dot or separator of the text into a placeholder.
+std::u16string withPlaceholders(std::u16string_view text, const std::vector<Placeholder>& table,
+                                PathStyle style);
+// The reverse, with placeholder names in any letter case; stops as soon as no "%" is left. A
+// placeholder without a folder stays.
 std::u16string withoutPlaceholders(std::u16string_view text, const std::vector<Placeholder>& table);
 
-// Replaces every occurrence of find (letter case ignored) from the left; a replacement is not
-// searched again. An empty find changes nothing.
-std::u16string replaceIgnoringCase(std::u16string_view text, std::u16string_view find,
-                                   std::u16string_view replacement);
+// Replaces every occurrence of find from the left; a replacement is not searched again. An empty
+// find changes nothing.
+std::u16string replaceEvery(std::u16string_view text, std::u16string_view find,
+                            std::u16string_view replacement, bool ignoreCase);
 
 } // namespace velkor6::app

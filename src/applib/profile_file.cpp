@@ -9,6 +9,11 @@ std::u16string ProfileFile::resolve(std::u16string_view path) const {
     FileSystem& fs = *platform_.fileSystem;
     if (path.empty() || !files::isRelativePath(path, fs.pathStyle()))
         return std::u16string(path);
+    // Windows keeps a settings file named without a folder in the Windows folder. Elsewhere that
+    // folder belongs to the system, where a user cannot write and root should not: a relative
+    // name means the current folder, as for any other file.
+    if (fs.pathStyle() != PathStyle::Windows)
+        return fs.fullPath(path);
     return files::getFullPath(fs.windowsFolder(), path, fs.pathStyle());
 }
 

@@ -15,26 +15,15 @@ bool isRoot(std::u16string_view folder, PathStyle style) {
     return folder.size() == 1 && isSeparator(folder[0], style);
 }
 
-// On Posix "\" and "/" name the same folder.
-std::u16string comparable(std::u16string_view path, PathStyle style) {
-    std::u16string s = lowerCase(path);
-    if (style == PathStyle::Posix) {
-        for (char16_t& c : s) {
-            if (c == u'\\')
-                c = u'/';
-        }
-    }
-    return s;
-}
-
 } // namespace
 
 bool changeDir(FileSystem& fs, std::u16string_view folder) {
     const PathStyle style = fs.pathStyle();
     if (!folder.empty() && isSeparator(folder.back(), style) && !isRoot(folder, style))
         folder.remove_suffix(1);
-    const std::u16string wanted = comparable(folder, style);
-    const auto isCurrent = [&] { return comparable(fs.currentDirectory(), style) == wanted; };
+    // Taken before the change: a relative folder names one below the current directory.
+    const std::u16string wanted = comparableFolder(fs, folder);
+    const auto isCurrent = [&] { return comparableFolder(fs, fs.currentDirectory()) == wanted; };
 
     fs.setCurrentDirectory(folder);
     // A folder on another drive became that drive's current folder only: switch drives too.

@@ -99,13 +99,15 @@ std::u16string canonicalizeShell(std::u16string_view path) {
     return out;
 }
 
-bool sameChar(char16_t a, char16_t b, PathStyle style) {
-    if (style == PathStyle::Posix)
-        return a == b;
-    return foldCase(a) == foldCase(b);
+} // namespace
+
+bool ignoresCase(PathStyle style) {
+    return style == PathStyle::Windows;
 }
 
-} // namespace
+bool sameNameChar(char16_t a, char16_t b, PathStyle style) {
+    return ignoresCase(style) ? foldCase(a) == foldCase(b) : a == b;
+}
 
 bool isSeparator(char16_t c, PathStyle style) {
     return c == u'\\' || (style == PathStyle::Posix && c == u'/');
@@ -247,7 +249,7 @@ std::size_t commonPrefix(std::u16string_view a, std::u16string_view b, PathStyle
     for (std::size_t i = 0;; ++i) {
         if (boundary(a, i) && boundary(b, i))
             length = i;
-        if (i == a.size() || i == b.size() || !sameChar(a[i], b[i], style))
+        if (i == a.size() || i == b.size() || !sameNameChar(a[i], b[i], style))
             break;
     }
     if (!length)

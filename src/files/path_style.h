@@ -14,6 +14,10 @@
 namespace velkor6::files {
 
 bool isSeparator(char16_t c, PathStyle style);
+// Whether the file system takes names that differ only in letter case for the same name.
+bool ignoresCase(PathStyle style);
+// Two characters of path names, compared as the file system compares them.
+bool sameNameChar(char16_t a, char16_t b, PathStyle style);
 char16_t separator(PathStyle style);
 
 // The text up to its first NUL character, as a C string sees it.

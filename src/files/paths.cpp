@@ -46,11 +46,17 @@ std::u16string getRelativePath(FileSystem& fs, std::u16string_view source,
     return relative ? std::move(*relative) : std::u16string(target);
 }
 
+std::u16string comparableFolder(FileSystem& fs, std::u16string_view folder) {
+    if (ignoresCase(fs.pathStyle()))
+        return lowerCase(folder);
+    return folder.empty() ? std::u16string() : fs.resolvedPath(folder);
+}
+
 void changeToPath(FileSystem& fs, std::u16string_view path) {
     const std::size_t sep = lastSeparator(path, fs.pathStyle());
     if (sep != std::u16string_view::npos)
         path = path.substr(0, sep);
-    if (lowerCase(fs.currentDirectory()) == lowerCase(path))
+    if (comparableFolder(fs, fs.currentDirectory()) == comparableFolder(fs, path))
         return;
     // Each step on its own: a failing drive change does not keep the folder from changing.
     fs.setCurrentDrive(path.substr(0, 2));

@@ -22,6 +22,10 @@ std::u16string getAbsolutePath(std::u16string_view source, std::u16string_view t
 std::u16string getRelativePath(FileSystem& fs, std::u16string_view source,
                                std::u16string_view target);
 
+// A folder as it compares with another: on Windows its text in lower case; on Posix its full
+// path with links followed, compared exactly as the file system tells names apart ("" stays "").
+std::u16string comparableFolder(FileSystem& fs, std::u16string_view folder);
+
 // Makes the folder of path (the text before its last separator) the current drive and folder.
 void changeToPath(FileSystem& fs, std::u16string_view path);
 

@@ -367,7 +367,7 @@ void addFileMembers(Table<lib>& t) {
          u"~/.cache), PROFILE ~; PROGRAMS and STARTMENU the data home's applications folder, "
          u"COMMON_PROGRAMS and COMMON_STARTMENU /usr/share/applications; STARTUP and ALTSTARTUP "
          u"the config home's autostart folder, COMMON_STARTUP and COMMON_ALTSTARTUP "
-         u"/etc/xdg/autostart; FONTS /usr/share/fonts; COMMON_APPDATA /var/lib; WINDOWS /usr; "
+         u"/etc/xdg/autostart; FONTS /usr/share/fonts; COMMON_APPDATA /var/lib; WINDOWS /etc; "
          u"SYSTEM and SYSTEMX86 /usr/lib; PROGRAM_FILES and PROGRAM_FILESX86 /opt; "
          u"PROGRAM_FILES_COMMON and PROGRAM_FILES_COMMONX86 /usr/share. All others (the virtual "
          u"folders, FAVORITES, RECENT, SENDTO, COOKIES, HISTORY, NETHOOD, PRINTHOOD, "

@@ -1,6 +1,5 @@
 // The resource members of an application context.
 #include "core/text.h"
-#include "files/file_io.h"
 #include "resources/resource_library.h"
 #include "resources/resource_text.h"
 #include "velkor6/applib.h"
@@ -35,9 +34,8 @@ std::u16string applib::loadRes(std::int32_t lResID, std::u16string_view sResType
             // German is the language every application ships.
             for (const std::u16string_view code :
                  {std::u16string_view(extension), std::u16string_view(u"DE")}) {
-                const std::u16string name = resources::resourceLibraryName(setting, code);
-                if (files::fileExists(fs, name)) {
-                    resourceLibrary_ = name;
+                if (auto name = resources::findResourceLibrary(fs, setting, code)) {
+                    resourceLibrary_ = std::move(*name);
                     break;
                 }
             }

@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "files/dir_listing.h"
+#include "files/file_io.h"
 #include "files/path_style.h"
 #include "platform/ansi.h"
 #include "resources/resource_text.h"
@@ -47,6 +48,26 @@ std::u16string withDefaultExtension(std::u16string_view path, PathStyle style) {
 
 std::u16string resourceLibraryName(std::u16string_view setting, std::u16string_view language) {
     return replaceAll(setting, u"%L", language);
+}
+
+std::optional<std::u16string> findResourceLibrary(FileSystem& fs, std::u16string_view setting,
+                                                  std::u16string_view language) {
+    std::u16string name = resourceLibraryName(setting, language);
+    if (files::fileExists(fs, name))
+        return name;
+    // On a file system that tells letter case apart "ResEN.dll" misses "Resen.dll", which the
+    // language list shows as English.
+    const std::u16string pattern = replaceAll(setting, u"%L", u"??");
+    const std::size_t nameStart = fileNameStart(pattern, fs.pathStyle());
+    const std::size_t at = std::u16string_view(pattern).substr(nameStart).find(u"??");
+    if (at == std::u16string_view::npos)
+        return std::nullopt;
+    const std::u16string wanted = upperCase(language);
+    for (const std::u16string& found : files::listNormalFiles(fs, pattern)) {
+        if (found.size() >= at + 2 && upperCase(std::u16string_view(found).substr(at, 2)) == wanted)
+            return pattern.substr(0, nameStart) + found;
+    }
+    return std::nullopt;
 }
 
 LoadedLibrary loadResourceLibrary(FileSystem& fs, std::u16string_view path) {

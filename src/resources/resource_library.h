@@ -17,6 +17,12 @@ namespace velkor6::resources {
 // The ResourceDLL setting names the libraries of all languages: "%L" stands for the language.
 std::u16string resourceLibraryName(std::u16string_view setting, std::u16string_view language);
 
+// The file of the language's library, as it is named on disk: "%L" in the setting stands for the
+// language, and where no file has that name exactly, the file the language list takes for the
+// language (its two characters in any letter case) is the one. nullopt when there is none.
+std::optional<std::u16string> findResourceLibrary(FileSystem& fs, std::u16string_view setting,
+                                                  std::u16string_view language);
+
 // A resource library read from its file, or the system error number loading it gives: 126 for
 // a missing file, 5 for one that cannot be read, 193 for one that is no library.
 struct LoadedLibrary {

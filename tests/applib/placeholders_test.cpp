@@ -41,6 +41,13 @@ TEST_F(Placeholders, AFolderTheSystemCannotGiveDropsOut) {
     EXPECT_EQ(app().relativePath(u"\\Ostrakware\\x"), u"\\Ostrakware\\x");
 }
 
+TEST_F(Placeholders, AFolderOfOneCharacterIsNoFolderToReplace) {
+    for (const std::u16string_view path : {u".", u"\\"}) {
+        auto other = library().vkrInitApp(HostApp{std::u16string(path), u"Dot", 1, 0, 0}, u"Dot");
+        EXPECT_EQ(other->relativePath(u"v1.2 .\\a\\b"), u"v1.2 .\\a\\b");
+    }
+}
+
 const std::string iniEditor = "REGEDIT4\r\n\r\n"
                               "[HKEY_CLASSES_ROOT\\.ini]\r\n@=\"inifile\"\r\n\r\n"
                               "[HKEY_CLASSES_ROOT\\inifile\\shell\\edit\\command]\r\n"
@@ -68,7 +75,8 @@ TEST_F(Placeholders, EditingOpensTheFileWithItsRegisteredEditor) {
     fp.shell.setExecuteResult(31);
     app().editINIFile();
     ASSERT_EQ(fp.shell.started().size(), 1u);
-    EXPECT_EQ(fp.shell.started()[0], u"editor.exe /e C:\\Apps\\Sales\\Sales.ini");
+    EXPECT_EQ(fp.shell.started()[0].command, u"editor.exe /e %1");
+    EXPECT_EQ(fp.shell.started()[0].file, u"C:\\Apps\\Sales\\Sales.ini");
 
     // A command without "%1" falls back to opening the file.
     ASSERT_TRUE(fp.registry.load("REGEDIT4\r\n\r\n"

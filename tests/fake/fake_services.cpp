@@ -96,8 +96,8 @@ std::int32_t FakeShell::execute(std::u16string_view verb, std::u16string_view fi
     return executeResult_;
 }
 
-bool FakeShell::start(std::u16string_view commandLine, std::int32_t) {
-    started_.emplace_back(commandLine);
+bool FakeShell::startWithFile(std::u16string_view command, std::u16string_view file, std::int32_t) {
+    started_.push_back({std::u16string(command), std::u16string(file)});
     return true;
 }
 

@@ -91,17 +91,21 @@ public:
     std::int32_t execute(std::u16string_view verb, std::u16string_view file,
                          std::u16string_view parameters, std::u16string_view directory,
                          std::int32_t showCommand) override;
-    bool start(std::u16string_view commandLine, std::int32_t windowStyle) override;
+    bool startWithFile(std::u16string_view command, std::u16string_view file,
+                       std::int32_t windowStyle) override;
 
     // What execute answers (above 32: success).
     void setExecuteResult(std::int32_t result) { executeResult_ = result; }
     const std::vector<Execution>& executions() const { return executions_; }
-    const std::vector<std::u16string>& started() const { return started_; }
+    struct Start {
+        std::u16string command, file;
+    };
+    const std::vector<Start>& started() const { return started_; }
 
 private:
     std::int32_t executeResult_ = 42;
     std::vector<Execution> executions_;
-    std::vector<std::u16string> started_;
+    std::vector<Start> started_;
 };
 
 } // namespace velkor6::fake

@@ -1,9 +1,11 @@
 // The path, file and folder members with their POSIX meanings, over a real temporary tree.
+#include "core/text.h"
 #include "fake/temp_folder.h"
 #include "velkor6/lib.h"
 
 #include <chrono>
 #include <csignal>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -43,7 +45,7 @@ TEST_F(FilesOnPosix, PathsUseSlashesAndNoDrives) {
     const std::u16string temp = l.vkrTempDir();
     ASSERT_FALSE(temp.empty());
     EXPECT_EQ(temp.back(), u'/');
-    EXPECT_EQ(l.vkrSystemDir(), u"/usr");
+    EXPECT_EQ(l.vkrSystemDir(), u"/etc");
 }
 
 TEST_F(FilesOnPosix, FilesAndAttributes) {
@@ -127,6 +129,46 @@ TEST_F(FilesOnPosix, Folders) {
     EXPECT_EQ(l.prfGetFileList(tmp.u16("list"), u"*.TXT").array().items.size(), 2u);
 
     EXPECT_EQ(l.prfIsAdmin(), ::geteuid() == 0);
+}
+
+TEST_F(FilesOnPosix, FoldersCompareAsTheFileSystemNamesThem) {
+    fake::CurrentDirectoryGuard guard;
+    tmp.mkdir("data/sub");
+    tmp.mkdir("Data");
+    std::filesystem::create_directory_symlink(tmp.path() / "data", tmp.path() / "link");
+    const auto data = std::filesystem::canonical(tmp.path() / "data");
+    const auto upper = std::filesystem::canonical(tmp.path() / "Data");
+    struct Case {
+        std::u16string folder;
+        bool current; // what prfChangeDir answers
+        std::filesystem::path after;
+    };
+    const Case changeDir[] = {
+        {tmp.u16("DATA"), false, data}, // no such folder
+        {tmp.u16("Data"), true, upper},
+        {tmp.u16("link/"), true, data},
+        {tmp.u16("link/sub"), true, data / "sub"},
+        {u"sub", true, data / "sub"},
+        {u"", false, data},
+    };
+    for (const Case& c : changeDir) {
+        SCOPED_TRACE(toUtf8(c.folder));
+        std::filesystem::current_path(data);
+        EXPECT_EQ(l.prfChangeDir(c.folder), c.current);
+        EXPECT_EQ(std::filesystem::current_path(), c.after);
+    }
+    // The last component goes: the folder of a file becomes current.
+    const Case changeToPath[] = {
+        {tmp.u16("Data/x.ini"), true, upper},
+        {tmp.u16("link/x.ini"), true, data},
+        {tmp.u16("DATA/x.ini"), false, data},
+    };
+    for (const Case& c : changeToPath) {
+        SCOPED_TRACE(toUtf8(c.folder));
+        std::filesystem::current_path(data);
+        l.vkrChangeToPath(c.folder);
+        EXPECT_EQ(std::filesystem::current_path(), c.after);
+    }
 }
 
 TEST_F(FilesOnPosix, CompareFoldersNeverLosesANewerTarget) {

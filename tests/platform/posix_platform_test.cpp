@@ -151,14 +151,16 @@ TEST_F(PosixFileSystem, PathsAndFolders) {
     EXPECT_EQ(makeDate(parts), modified);
 }
 
-TEST(PosixShell, StartsWithoutWaitingAndReportsMissingFiles) {
+TEST(PosixShell, StartsWithoutWaitingAndReportsMissingPrograms) {
     fake::TempFolder tmp;
     auto shell = createShell();
     EXPECT_LE(shell->execute(u"open", tmp.u16("missing.txt"), u"", u"", 6), 32);
-    EXPECT_FALSE(shell->start(u"", 2));
+    EXPECT_FALSE(shell->startWithFile(u"", u"f", 2));
+    EXPECT_FALSE(shell->startWithFile(tmp.u16("no-such-program") + u" %1", u"f", 2));
+    EXPECT_FALSE(shell->startWithFile(u"touch '%1", tmp.u16("unclosed"), 2));
 
     const std::filesystem::path marker = tmp.path() / "started";
-    ASSERT_TRUE(shell->start(u"echo started > '" + tmp.u16("started") + u"'", 2));
+    ASSERT_TRUE(shell->startWithFile(u"touch %1", tmp.u16("started"), 2));
     for (int i = 0; i < 200 && !std::filesystem::exists(marker); ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     EXPECT_TRUE(std::filesystem::exists(marker));

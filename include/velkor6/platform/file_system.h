@@ -85,6 +85,9 @@ public:
     // The absolute form of a path: resolved against the current directory, "." and ".."
     // removed, no trailing separator except at a root. Links are not followed.
     virtual std::u16string fullPath(std::u16string_view path) = 0;
+    // The full path with links followed, where the system has them, so that two names of one
+    // folder compare equal; as fullPath for what does not exist.
+    virtual std::u16string resolvedPath(std::u16string_view path) { return fullPath(path); }
     virtual std::u16string currentDirectory() = 0;
     // Changes the current directory. Where there are drives, this is the directory of the
     // path's drive; it becomes the process's own only when that drive is the current one.

@@ -14,8 +14,12 @@ public:
     virtual std::int32_t execute(std::u16string_view verb, std::u16string_view file,
                                  std::u16string_view parameters, std::u16string_view directory,
                                  std::int32_t showCommand) = 0;
-    // Starts a command line without waiting for it (VB's Shell); false when it cannot start.
-    virtual bool start(std::u16string_view commandLine, std::int32_t windowStyle) = 0;
+    // Starts a command registered for a file type with file put in for every "%1", without
+    // waiting for it; false when it cannot start. The file is never read as command syntax:
+    // where programs take their arguments as a list, the command is split into words first and
+    // the file goes into the words.
+    virtual bool startWithFile(std::u16string_view command, std::u16string_view file,
+                               std::int32_t windowStyle) = 0;
 };
 
 } // namespace velkor6

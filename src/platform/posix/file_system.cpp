@@ -11,6 +11,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <fstream>
+#include <memory>
 #include <sstream>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -230,6 +231,15 @@ public:
         return fromNative(normalise(p));
     }
 
+    std::u16string resolvedPath(std::u16string_view path) override {
+        const std::u16string full = fullPath(path);
+        char* real = ::realpath(nativePath(full).c_str(), nullptr);
+        if (real == nullptr)
+            return full;
+        const std::unique_ptr<char, decltype(&std::free)> owned(real, &std::free);
+        return fromNative(real);
+    }
+
     std::u16string currentDirectory() override { return fromNative(workingDirectory()); }
 
     bool setCurrentDirectory(std::u16string_view path) override {
@@ -243,7 +253,9 @@ public:
         return fromNative(tmp != nullptr && *tmp != '\0' ? tmp : "/tmp");
     }
 
-    std::u16string windowsFolder() override { return u"/usr"; }
+    // The system's settings folder, as the Windows folder held win.ini and system.ini; it holds
+    // none of the folders that stand in for the program-files folders.
+    std::u16string windowsFolder() override { return u"/etc"; }
 
     std::vector<Volume> volumes() override {
         std::ifstream in("/proc/self/mounts");

@@ -119,7 +119,9 @@ std::string specialFolderPath(std::int32_t csidl, const XdgFolders& x) {
     case 35:
         return "/var/lib"; // COMMON_APPDATA
     case 36:
-        return "/usr"; // WINDOWS
+        // Not /usr: that holds /usr/share, which stands in for the common files, and the
+        // placeholder of the Windows folder is put in before theirs.
+        return "/etc"; // WINDOWS
     case 37:           // SYSTEM
     case 41:           // SYSTEMX86
         return "/usr/lib";

@@ -9,6 +9,8 @@
 #include "platform/win32/services.h"
 #include "platform/win32/wide.h"
 
+#include <string>
+
 namespace velkor6::win32 {
 namespace {
 
@@ -42,7 +44,14 @@ public:
         return static_cast<std::int32_t>(reinterpret_cast<INT_PTR>(result));
     }
 
-    bool start(std::u16string_view commandLine, std::int32_t windowStyle) override {
+    // Windows file names hold no quotation marks, so a "%1" the command quotes stays one
+    // argument whatever the name holds.
+    bool startWithFile(std::u16string_view command, std::u16string_view file,
+                       std::int32_t windowStyle) override {
+        std::u16string commandLine(command);
+        for (std::size_t at = commandLine.find(u"%1"); at != std::u16string::npos;
+             at = commandLine.find(u"%1", at + file.size()))
+            commandLine.replace(at, 2, file);
         std::wstring line = wide(commandLine); // CreateProcessW may write into it
         STARTUPINFOW startup{};
         startup.cb = sizeof startup;
