@@ -1,6 +1,6 @@
 // Class `applib`: the context of one host application (its name, folder and version, its
-// settings file and log, its language). Each member forwards to src/applib; the same members are
-// reachable by name through the applib member table (CLI, COM).
+// settings file and log, its language). Each member's body sits beside its row of the member table
+// in one src/lib file per family; through that table the members are reachable by name (CLI, COM).
 #pragma once
 
 #include "velkor6/module.h"

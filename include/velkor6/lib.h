@@ -1,5 +1,5 @@
-// Class `lib`: the function library. Each member forwards to its subsystem; the same members are
-// reachable by name through the dispatch table (CLI, COM).
+// Class `lib`: the function library. Each member's body sits beside its row of the member table in
+// one src/lib file per family; through that table the members are reachable by name (CLI, COM).
 #pragma once
 
 #include <cstdint>

@@ -43,12 +43,4 @@ void openForEditing(Platform& platform, std::u16string_view path, const Locale& 
 
 } // namespace app
 
-void applib::editINIFile() {
-    app::openForEditing(module_->platform(), iniFile(), locale());
-}
-
-void applib::editLOGFile() {
-    app::openForEditing(module_->platform(), logFile(), locale());
-}
-
 } // namespace velkor6

@@ -20,28 +20,4 @@ bool isGermany(const Locale& loc) {
 
 } // namespace app
 
-std::int16_t applib::language() {
-    constexpr std::int32_t none = -1;
-    try {
-        std::int32_t n = longValue(u"Application", u"Language", none);
-        if (n == none)
-            n = longValue(u"Application", u"DefaultLanguage", none);
-        if (n == none)
-            n = app::isGermany(locale()) ? 1 : 2;
-        n = longValue(u"Application", u"Language", n, true);
-        language_ = toInteger(Variant(n), locale());
-        module_->setCurrentLanguage(language_);
-        return language_;
-    } catch (const std::exception&) {
-        // A number beyond an Integer: the member answers 0 (neutral) and keeps what it had.
-        return 0;
-    }
-}
-
-void applib::languageLet(std::int16_t value) {
-    module_->setCurrentLanguage(value);
-    language_ = value;
-    longValueLet(u"Application", u"Language", value);
-}
-
 } // namespace velkor6

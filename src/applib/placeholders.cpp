@@ -86,22 +86,4 @@ std::u16string withoutPlaceholders(std::u16string_view text,
 
 } // namespace app
 
-std::u16string applib::relativePath(std::u16string_view sFilename) {
-    if (sFilename.empty())
-        return {};
-    Platform& p = module_->platform();
-    const PathStyle style = p.fileSystem->pathStyle();
-    return app::withPlaceholders(sFilename, app::placeholderTable(*p.environment, style, appPath_),
-                                 style);
-}
-
-std::u16string applib::absolutePath(std::u16string_view sFilename) {
-    // Most stored values hold no placeholder; they need no look-up of the special folders.
-    if (sFilename.find(u'%') == std::u16string_view::npos)
-        return std::u16string(sFilename);
-    Platform& p = module_->platform();
-    return app::withoutPlaceholders(
-        sFilename, app::placeholderTable(*p.environment, p.fileSystem->pathStyle(), appPath_));
-}
-
 } // namespace velkor6

@@ -10,9 +10,8 @@ const Table<applib>& applibMembers() {
         addSettingMembers(t);
         addWindowMemoryMembers(t);
         addLogMembers(t);
-        addAppContextMembers(t);
+        addPathMembers(t);
         addLanguageMembers(t);
-        addApplibResourceMembers(t);
         return t;
     }();
     return table;

@@ -8,14 +8,12 @@ namespace velkor6::dispatch {
 
 const Table<applib>& applibMembers();
 
-// One function per subsystem adds that subsystem's rows.
+// One function per member family adds its rows.
 void addSettingMembers(Table<applib>& table);
 void addWindowMemoryMembers(Table<applib>& table);
 void addLogMembers(Table<applib>& table);
-void addAppContextMembers(Table<applib>& table); // placeholder paths and the editor
-void addLanguageMembers(Table<applib>& table);   // language and resources
-// Resource libraries: getLanguagesList, loadRes.
-void addApplibResourceMembers(Table<applib>& table);
+void addPathMembers(Table<applib>& table);
+void addLanguageMembers(Table<applib>& table);
 
 // An applib as a value whose members are called through applibMembers().
 ObjectRef applibObject(std::shared_ptr<applib> context);

@@ -164,32 +164,4 @@ void addResourceMembers(Table<lib>& t) {
                  u"that is not there. At most 32766 characters."});
 }
 
-void addApplibResourceMembers(Table<applib>& t) {
-    t.push_back({17,
-                 u"getLanguagesList",
-                 CallKind::Method,
-                 {},
-                 T::String | T::Array,
-                 [](applib& a, Args&) -> Variant { return a.getLanguagesList(); },
-                 u"The languages whose resource library is on disk, as \"langid;name;extension\" "
-                 u"(for example 2;English;EN).",
-                 u"The libraries are the files matching the setting ResourceDLL of section "
-                 u"Application with %L as two characters, the language's extension (DE, EN, "
-                 u"FR, IT, ES, CZ, PL, HP). The languages come in the library's order; an "
-                 u"array without entries when there are none."});
-    t.push_back(
-        {18,
-         u"loadRes",
-         CallKind::Method,
-         {required(u"lResID", T::Long), required(u"sResType", T::String)},
-         T::String,
-         [](applib& a, Args& r) -> Variant { return a.loadRes(r.i32(0), r.str(1)); },
-         u"The resource lResID of type sResType (\"XML\", or \"#23\" for a number) of the "
-         u"application's resource library, as text.",
-         u"The library is the setting ResourceDLL of section Application with %L "
-         u"replaced by the extension of the context's language, else by DE; it is "
-         u"found once and then kept. Without either file the error is logged and shown. "
-         u"Text before the first \"<\" goes (the resources are XML). \"\" on any failure."});
-}
-
 } // namespace velkor6::dispatch

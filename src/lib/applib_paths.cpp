@@ -1,13 +1,42 @@
-// Rows of the application context: settings store, window and column memory, log, placeholder
-// paths and the editor launch.
+// Placeholder paths and the editor launch: the `applib` members and their rows.
+#include "applib/edit_file.h"
+#include "applib/placeholders.h"
 #include "lib/applib_members.h"
 
+namespace velkor6 {
+
+std::u16string applib::relativePath(std::u16string_view sFilename) {
+    if (sFilename.empty())
+        return {};
+    Platform& p = module_->platform();
+    const PathStyle style = p.fileSystem->pathStyle();
+    return app::withPlaceholders(sFilename, app::placeholderTable(*p.environment, style, appPath_),
+                                 style);
+}
+
+std::u16string applib::absolutePath(std::u16string_view sFilename) {
+    // Most stored values hold no placeholder; they need no look-up of the special folders.
+    if (sFilename.find(u'%') == std::u16string_view::npos)
+        return std::u16string(sFilename);
+    Platform& p = module_->platform();
+    return app::withoutPlaceholders(
+        sFilename, app::placeholderTable(*p.environment, p.fileSystem->pathStyle(), appPath_));
+}
+
+void applib::editINIFile() {
+    app::openForEditing(module_->platform(), iniFile(), locale());
+}
+
+void applib::editLOGFile() {
+    app::openForEditing(module_->platform(), logFile(), locale());
+}
+
+} // namespace velkor6
+
 namespace velkor6::dispatch {
-namespace {
 
-using T = VarType;
-
-void addPathRows(Table<applib>& t) {
+void addPathMembers(Table<applib>& t) {
+    using T = VarType;
     t.push_back({12,
                  u"relativePath",
                  CallKind::Method,
@@ -49,12 +78,6 @@ void addPathRows(Table<applib>& t) {
                  },
                  u"Opens the log file in the editor registered for its type.",
                  u""});
-}
-
-} // namespace
-
-void addAppContextMembers(Table<applib>& t) {
-    addPathRows(t);
 }
 
 } // namespace velkor6::dispatch
