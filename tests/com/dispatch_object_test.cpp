@@ -24,7 +24,8 @@ const dispatch::Table<Probe>& probeMembers() {
         dispatch::Table<Probe> t;
         // Join(a, Optional sep = "-", Optional ByRef length As Integer) = a & sep & a
         t.push_back(
-            {u"Join",
+            {1,
+             u"Join",
              CallKind::Method,
              {dispatch::required(u"sLeft", T::String), dispatch::optional(u"sSep", T::String, u"-"),
               dispatch::optionalByRef(u"iLength", T::Integer, std::int16_t{0})},
@@ -36,7 +37,8 @@ const dispatch::Table<Probe>& probeMembers() {
              },
              u"",
              u""});
-        t.push_back({u"Text",
+        t.push_back({2,
+                     u"Text",
                      CallKind::PropertyGet,
                      {dispatch::optional(u"lStart", T::Long, std::int32_t{1})},
                      T::String,
@@ -45,7 +47,8 @@ const dispatch::Table<Probe>& probeMembers() {
                      },
                      u"",
                      u""});
-        t.push_back({u"Text",
+        t.push_back({2,
+                     u"Text",
                      CallKind::PropertyLet,
                      {dispatch::optional(u"lStart", T::Long, std::int32_t{1}),
                       dispatch::required(u"sValue", T::String)},
@@ -57,7 +60,8 @@ const dispatch::Table<Probe>& probeMembers() {
                      },
                      u"",
                      u""});
-        t.push_back({u"Fail",
+        t.push_back({3,
+                     u"Fail",
                      CallKind::Method,
                      {dispatch::required(u"lNumber", T::Long)},
                      T::Empty,
@@ -68,7 +72,8 @@ const dispatch::Table<Probe>& probeMembers() {
                      },
                      u"",
                      u""});
-        t.push_back({u"Echo",
+        t.push_back({4,
+                     u"Echo",
                      CallKind::Method,
                      {dispatch::required(u"vValue", T::Variant)},
                      T::Variant,
