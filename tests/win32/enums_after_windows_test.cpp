@@ -30,7 +30,7 @@ TEST(EnumsAfterWindowsHeaders, KeepTheSystemsMacrosAndValues) {
               static_cast<std::int32_t>(valueOf(velkor6::registryKeysMembers,
                                                 u"HKEY_CLASSES_ROOT")));
     EXPECT_EQ(valueOf(velkor6::specialFolderConstsMembers, u"CSIDL_APPDATA"), CSIDL_APPDATA);
-    EXPECT_EQ(valueOf(velkor6::registryRightsMembers, u"KEY_ALL_ACCESS"), KEY_ALL_ACCESS);
+    EXPECT_EQ(valueOf(velkor6::registryRightsMembers, u"KEY_QUERY_VALUE"), KEY_QUERY_VALUE);
     EXPECT_EQ(valueOf(velkor6::registryValueTypesMembers, u"REG_DWORD"), REG_DWORD);
     EXPECT_EQ(valueOf(velkor6::registryErrorCodeConstantsMembers, u"ERROR_ACCESS_DENIED"),
               ERROR_ACCESS_DENIED);
