@@ -2,6 +2,7 @@
 
 #include "literal.h"
 
+#include <array>
 #include <charconv>
 #include <cstdint>
 #include <filesystem>
@@ -12,17 +13,12 @@
 namespace velkor6::cli {
 
 void readAppVersion(std::string_view text, HostApp& host) {
-    HostApp read;
-    std::int16_t* readParts[] = {&read.major, &read.minor, &read.revision};
-    if (text.empty()) {
-        host.major = host.minor = host.revision = 0;
-        return;
-    }
-    std::size_t start = 0;
-    for (std::size_t i = 0;; ++i) {
+    std::array<std::int16_t, 3> parts{};
+    std::size_t count = 0;
+    for (std::size_t start = 0; start < text.size() || (count > 0 && start == text.size());) {
         const std::size_t dot = std::min(text.find('.', start), text.size());
         const std::string_view piece = text.substr(start, dot - start);
-        if (i == 3)
+        if (count == parts.size())
             throw UsageError("--app-version " + std::string(text) +
                              ": at most three parts (major.minor.revision)");
         int value = -1;
@@ -31,14 +27,12 @@ void readAppVersion(std::string_view text, HostApp& host) {
             end != piece.data() + piece.size() || value > std::numeric_limits<std::int16_t>::max())
             throw UsageError("--app-version " + std::string(text) + ": '" + std::string(piece) +
                              "' is no number from 0 to 32767");
-        *readParts[i] = static_cast<std::int16_t>(value);
-        if (dot == text.size())
-            break;
+        parts[count++] = static_cast<std::int16_t>(value);
         start = dot + 1;
     }
-    host.major = read.major;
-    host.minor = read.minor;
-    host.revision = read.revision;
+    host.major = parts[0];
+    host.minor = parts[1];
+    host.revision = parts[2];
 }
 
 Options resolveAppOptions(Options options) {
@@ -50,7 +44,8 @@ Options resolveAppOptions(Options options) {
         if (ec)
             throw UsageError("the current folder cannot be read (" + ec.message() +
                              "): give --app-path");
-        options.appPath = here.string();
+        const std::u8string utf8 = here.u8string();
+        options.appPath.assign(utf8.begin(), utf8.end());
     }
     return options;
 }

@@ -341,10 +341,16 @@ private:
             if (!suffixed(fitsDouble && magnitude <= 2147483647.0 + (negative ? 1 : 0), "a Long"))
                 return std::nullopt;
             return Variant(static_cast<std::int32_t>(value));
-        case u'!':
+        case u'!': {
             if (!suffixed(fitsDouble && magnitude < singleLimit, "a Single"))
                 return std::nullopt;
-            return Variant(static_cast<float>(value));
+            // Rounded once, from the digits: rounding through a Double could land on the
+            // next Single. The reader gives up on denormals, which the Double path serves.
+            float single = 0;
+            if (std::from_chars(text.data(), text.data() + text.size(), single).ec != std::errc())
+                single = static_cast<float>(magnitude);
+            return Variant(negative ? -single : single);
+        }
         case u'#':
             if (!suffixed(fitsDouble, "a Double"))
                 return std::nullopt;
