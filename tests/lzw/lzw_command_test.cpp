@@ -51,7 +51,10 @@ std::string servicesText() {
 }
 
 TEST(LzwCommand, StrictIsExactAndCompatibleDecodesAsTheInflateMember) {
-    const std::string text = servicesText();
+    std::string text = servicesText();
+    // Every byte value, each of which the member's text carries as one character.
+    for (int b = 0; b < 256; ++b)
+        text += static_cast<char>(b);
     std::istringstream in(text);
     std::ostringstream packed;
     ASSERT_EQ(runDeflate(in, packed), 0);
