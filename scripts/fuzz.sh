@@ -9,7 +9,7 @@
 # a finding), FUZZ_BIN names another folder of the programs (a copy that a rebuild leaves alone),
 # FUZZ_VERBOSE=1 shows libFuzzer's whole output.
 set -uo pipefail
-cd "$(dirname "$0")/.."
+cd "$(dirname "$0")/.." || exit 1
 
 seconds=${1:?usage: scripts/fuzz.sh SECONDS [HARNESS ...]}
 shift

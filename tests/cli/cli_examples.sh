@@ -67,6 +67,7 @@ status script-usage-exit 2 "$bin" <<<'vkrCVal(4, 1E39!)'
 # Without --app-path the application's folder is the current folder, absolute.
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+# shellcheck disable=SC2016 # the inner shell expands its own arguments
 check app-path "$work/demo.ini" bash -c 'cd "$1" && "$2" --app demo call iniFile' - "$work" "$bin"
 
 # deflate | inflate gives back every byte; --strict is the same, --compatible the member's
