@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds and runs every test: the default preset, then the sanitizer preset, then the Windows
-# builds, the 64-bit and the 32-bit one, each tested under Wine. VELKOR6_WINDOWS=0 leaves the
-# Windows builds out.
+# Builds and runs every test: the default preset, then the sanitizer preset, then the fuzzers for
+# 20 seconds each when clang is installed, then the Windows builds, the 64-bit and the 32-bit
+# one, each tested under Wine. VELKOR6_WINDOWS=0 leaves the Windows builds out.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -29,6 +29,16 @@ for preset in default asan; do
     cmake --build --preset "$preset"
     ctest --preset "$preset" -j2
 done
+
+# The fuzzers, when clang is there to build them: 20 seconds each on their seed corpora.
+if command -v clang++ >/dev/null; then
+    clangMajor=$(clang++ -dumpversion | cut -d. -f1)
+    scripts/deps.sh "libclang-rt-$clangMajor-dev"
+    echo "== fuzz"
+    cmake --preset fuzz >/dev/null
+    cmake --build --preset fuzz
+    scripts/fuzz.sh 20
+fi
 
 if [ "$windows" != 0 ]; then
     echo "== windows-x64 (tests under Wine)"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The program end to end: documented examples, exit codes, and a current member reference.
 set -u
-bin=$1
+bin=$(realpath "$1")
 root=$2
 failed=0
 passed=0
@@ -46,6 +46,41 @@ check script $'13\nsFound = "from"' \
 status error-exit 1 "$bin" call vkrNoSuchThing
 status usage-exit 2 "$bin" frobnicate
 status usage-call 2 "$bin" call
+
+# Usage errors: exit 2 and a message naming the problem, before any member runs.
+check version-word 'velkor6: --app-version x: '"'"'x'"'"' is no number from 0 to 32767' \
+    "$bin" --app demo --app-version x call appName
+check version-wraps 'velkor6: --app-version 6.40000: '"'"'40000'"'"' is no number from 0 to 32767' \
+    "$bin" --app demo --app-version 6.40000 call appName
+status version-parts 2 "$bin" --app demo --app-version 1.2.3.4 call appName
+check single-overflow 'velkor6: overflow: 1E39! is beyond the range of a Single' \
+    "$bin" call --typed vkrCVal 4 '1E39!'
+check year-below-100 'velkor6: date #0050-01-01# is before the year 100, the first a Date holds' \
+    "$bin" call --typed vkrCVal 7 '#0050-01-01#'
+deep=$(printf 'Array(%.0s' $(seq 18000))
+status deep-array 2 "$bin" call vkrCVal 12 "$deep"
+check early-date '#0100-01-01#' "$bin" call --typed vkrCVal 7 '#0100-01-01#'
+check script-usage $'1.5\nvelkor6: line 2: overflow: 1E39! is beyond the range of a Single' \
+    "$bin" <<<$'vkrCVal(4, 1.5)\nvkrCVal(4, 1E39!)'
+status script-usage-exit 2 "$bin" <<<'vkrCVal(4, 1E39!)'
+
+# Without --app-path the application's folder is the current folder, absolute.
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+# shellcheck disable=SC2016 # the inner shell expands its own arguments
+check app-path "$work/demo.ini" bash -c 'cd "$1" && "$2" --app demo call iniFile' - "$work" "$bin"
+
+# deflate | inflate gives back every byte; --strict is the same, --compatible the member's
+# reading, which alters a text long enough to fill the dictionary.
+services=$work/services
+for port in $(seq 1 400); do
+    printf 'service-%s\t\t%s/tcp\t\t# entry %s\nservice-%s\t\t%s/udp\n' \
+        $((port % 17)) "$port" "$port" $((port % 17)) "$port"
+done >"$services"
+status inflate-exact 0 cmp -s "$services" <("$bin" deflate <"$services" | "$bin" inflate)
+status inflate-strict 0 cmp -s "$services" <("$bin" deflate <"$services" | "$bin" inflate --strict)
+status inflate-compatible 1 cmp -s "$services" <("$bin" deflate <"$services" | "$bin" inflate --compatible)
+status inflate-unknown 2 "$bin" inflate --loose </dev/null
 
 members=$("$bin" members)
 if ! grep -q '^Function vkrFindSubString(sSource As String' <<<"$members"; then

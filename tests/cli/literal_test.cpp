@@ -1,8 +1,10 @@
-#include <gtest/gtest.h>
-
 #include "core/text.h"
 #include "literal.h"
 #include "velkor6/vb_error.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
 
 namespace velkor6::cli {
 namespace {
@@ -48,6 +50,20 @@ TEST(CliLiteral, ReadsEachLiteralWithVbTyping) {
         {u"Array(\"Name\", \"Smith\", True, 12.5)", u"Array(\"Name\", \"Smith\", True, 12.5#)"},
         {u"Array()", u"Array()"},
         {u"Array(Array(1), \"x\")", u"Array(Array(1%), \"x\")"},
+        {u"-32768%", u"-32768%"},
+        {u"3.4028235E+38!", u"3.4028235E+38!"}, // the largest Single
+        {u"1E-45!", u"1E-45!"},                 // the smallest denormal Single
+        {u"5E-324", u"5E-324#"},
+        // Currency digits are read exactly, rounded half to even past the fourth decimal.
+        {u"922337203685477.5807@", u"922337203685477.5807@"},
+        {u"-922337203685477.5808@", u"-922337203685477.5808@"},
+        {u"0.00005@", u"0@"},
+        {u"0.00015@", u"0.0002@"},
+        {u"1.5E3@", u"1500@"},
+        // Every year a Date holds reads back; years always have four digits.
+        {u"#0100-01-01#", u"#0100-01-01#"},
+        {u"#0999-12-31 23:59:59#", u"#0999-12-31 23:59:59#"},
+        {u"#9999-12-31 23:59:59#", u"#9999-12-31 23:59:59#"},
     };
     for (const auto& [text, typed] : cases)
         EXPECT_EQ(toUtf8(typedOf(text)), toUtf8(typed)) << toUtf8(text);
@@ -55,9 +71,20 @@ TEST(CliLiteral, ReadsEachLiteralWithVbTyping) {
 
 TEST(CliLiteral, TextThatIsNoSingleLiteralStaysText) {
     const std::u16string_view plain[] = {
-        u"Select a, b FROM t", u"from|select", u"EUR 1.234,50", u"1.234,5", u"12abc",
-        u"\"open", u"#2024-02-30#", u"#2024-3-15#", u"\"a\" & 1", u"32768%", u"Array(1,",
-        u"Deflate", u"",
+        u"Select a, b FROM t",
+        u"from|select",
+        u"EUR 1.234,50",
+        u"1.234,5",
+        u"12abc",
+        u"\"open",
+        u"#2024-02-30#",
+        u"#2024-3-15#",
+        u"\"a\" & 1",
+        u"32768%x",
+        u"1E39!x",
+        u"Array(1,",
+        u"Deflate",
+        u"",
     };
     for (auto text : plain)
         EXPECT_FALSE(parseLiteral(text).has_value()) << toUtf8(text);
@@ -73,9 +100,70 @@ TEST(CliLiteral, TextThatIsNoSingleLiteralStaysText) {
     EXPECT_EQ(arg.value, Variant(u"a:b"));
 }
 
+TEST(CliLiteral, LiteralsOutsideTheirTypeAreUsageErrors) {
+    const std::pair<std::u16string, std::string_view> cases[] = {
+        {u"1E39!", "1E39! is beyond the range of a Single"},
+        {u"-3.5E+38!", "beyond the range of a Single"},
+        {u"32768%", "beyond the range of an Integer"},
+        {u"-32769%", "beyond the range of an Integer"},
+        {u"2147483648&", "beyond the range of a Long"},
+        {u"1E400", "beyond the range of a Double"},
+        {u"1E400#", "beyond the range of a Double"},
+        {u"922337203685477.5808@", "beyond the range of a Currency"},
+        {u"1E20@", "beyond the range of a Currency"},
+        {u"#0099-12-31#", "before the year 100"},
+        {u"#0000-01-01#", "before the year 100"},
+        {u"Array(\"a\", 1E39!)", "beyond the range of a Single"},
+    };
+    for (const auto& [text, message] : cases) {
+        try {
+            parseCommandArgument(text);
+            ADD_FAILURE() << toUtf8(text) << " was read";
+        } catch (const UsageError& e) {
+            EXPECT_NE(std::string_view(e.what()).find(message), std::string_view::npos)
+                << toUtf8(text) << ": " << e.what();
+        }
+    }
+
+    auto nested = [](int depth) {
+        std::u16string text;
+        for (int i = 0; i < depth; ++i)
+            text += u"Array(";
+        text += u"1";
+        for (int i = 0; i < depth; ++i)
+            text += u")";
+        return text;
+    };
+    EXPECT_TRUE(parseLiteral(nested(maxArrayDepth)).has_value());
+    EXPECT_THROW(parseLiteral(nested(maxArrayDepth + 1)), UsageError);
+    // Deep enough to overflow the stack of a reader that recursed without a limit.
+    EXPECT_THROW(parseCommandArgument(nested(18000)), UsageError);
+    EXPECT_THROW(parseCallLine(u"f(" + nested(18000) + u")"), UsageError);
+}
+
+TEST(CliLiteral, ValuesNoLiteralWritesStillComeOut) {
+    constexpr double inf = std::numeric_limits<double>::infinity();
+    const std::pair<Variant, std::u16string_view> cases[] = {
+        {Variant(inf), u"1.#INF#"},
+        {Variant(-inf), u"-1.#INF#"},
+        {Variant(static_cast<float>(inf)), u"1.#INF!"},
+        {Variant(std::numeric_limits<double>::quiet_NaN()), u"1.#QNAN#"},
+        {Variant(-std::numeric_limits<float>::quiet_NaN()), u"-1.#IND!"},
+        {Variant(std::numeric_limits<double>::denorm_min()), u"5E-324#"},
+        {Variant(-std::numeric_limits<float>::denorm_min()), u"-1E-45!"},
+        {Variant(std::numeric_limits<float>::max()), u"3.4028235E+38!"},
+        {Variant(Date{-657434.0}), u"#0100-01-01#"},
+        {Variant(Date{-657434.75}), u"#0100-01-01 18:00:00#"},
+        {Variant(Date{-657435.0}), u"CDate(-657435#)"},
+        {Variant(Date{inf}), u"CDate(1.#INF#)"},
+    };
+    for (const auto& [value, typed] : cases)
+        EXPECT_EQ(toUtf8(typedLiteral(value)), toUtf8(typed));
+}
+
 TEST(CliLiteral, ReadsCallLines) {
-    ParsedCall call =
-        parseCallLine(u"vkrFindSubString(\"Select a, b FROM t\", \"from|select\", bFindFirst:=False)");
+    ParsedCall call = parseCallLine(
+        u"vkrFindSubString(\"Select a, b FROM t\", \"from|select\", bFindFirst:=False)");
     EXPECT_EQ(call.member, u"vkrFindSubString");
     ASSERT_EQ(call.arguments.size(), 3u);
     EXPECT_EQ(call.arguments[1].value, Variant(u"from|select"));
@@ -97,7 +185,7 @@ TEST(CliLiteral, ReadsCallLines) {
     EXPECT_EQ(call.arguments.size(), 2u);
 
     for (auto bad : {u"f(1", u"f(bare words)", u"(1)", u"f(1) trailing"})
-        EXPECT_THROW(parseCallLine(bad), VbError) << toUtf8(bad);
+        EXPECT_THROW(parseCallLine(bad), UsageError) << toUtf8(bad);
 }
 
 TEST(CliLiteral, TypedNumbersAreShortestRoundTrip) {

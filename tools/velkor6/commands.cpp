@@ -1,5 +1,6 @@
 #include "commands.h"
 
+#include "app_options.h"
 #include "core/convert.h"
 #include "core/format.h"
 #include "core/text.h"
@@ -150,7 +151,7 @@ public:
             HostApp host;
             host.path = fromUtf8(options.appPath);
             host.exeName = fromUtf8(options.appName);
-            readVersion(options.appVersion, host);
+            readAppVersion(options.appVersion, host);
             app_ = lib_.vkrInitApp(host, host.exeName);
         }
     }
@@ -167,35 +168,37 @@ public:
     }
 
 private:
-    // "6.1.23" gives Major 6, Minor 1, Revision 23; missing parts stay 0.
-    static void readVersion(const std::string& text, HostApp& host) {
-        std::int16_t* parts[] = {&host.major, &host.minor, &host.revision};
-        std::size_t start = 0;
-        for (auto* part : parts) {
-            if (start >= text.size())
-                break;
-            const std::size_t dot = std::min(text.find('.', start), text.size());
-            *part = static_cast<std::int16_t>(std::stoi(text.substr(start, dot - start)));
-            start = dot + 1;
-        }
-    }
-
     lib lib_;
     std::shared_ptr<applib> app_;
 };
 
 } // namespace
 
-int runCall(const Options& options, const std::vector<std::string>& words, std::ostream& out,
+namespace {
+
+void printUsageError(const UsageError& e, std::ostream& err) {
+    err << "velkor6: " << e.what() << '\n';
+}
+
+} // namespace
+
+int runCall(const Options& givenOptions, const std::vector<std::string>& words, std::ostream& out,
             std::ostream& err) {
     if (words.empty()) {
         err << "usage: velkor6 call [--typed] [--let] [--locale de-DE|en-US] MEMBER [ARG ...]\n";
         return 2;
     }
+    Options options;
     std::vector<ParsedArgument> parsed;
     std::optional<Variant> assigned;
-    for (std::size_t i = 1; i < words.size(); ++i)
-        parsed.push_back(parseCommandArgument(fromUtf8(words[i])));
+    try {
+        options = resolveAppOptions(givenOptions);
+        for (std::size_t i = 1; i < words.size(); ++i)
+            parsed.push_back(parseCommandArgument(fromUtf8(words[i])));
+    } catch (const UsageError& e) {
+        printUsageError(e, err);
+        return 2;
+    }
     if (options.let) {
         if (parsed.empty()) {
             err << "velkor6 call --let: the last argument is the value to assign\n";
@@ -214,21 +217,29 @@ int runCall(const Options& options, const std::vector<std::string>& words, std::
     return 0;
 }
 
-int runScript(const Options& options, std::istream& in, std::ostream& out, std::ostream& err,
+int runScript(const Options& givenOptions, std::istream& in, std::ostream& out, std::ostream& err,
               bool interactive) {
+    Options options;
     std::unique_ptr<Session> session;
     try {
+        options = resolveAppOptions(givenOptions);
         session = std::make_unique<Session>(options);
+    } catch (const UsageError& e) {
+        printUsageError(e, err);
+        return 2;
     } catch (const VbError& e) {
         printError(e, err);
         return 1;
     }
     std::string line;
+    std::size_t lineNumber = 0;
+    bool unreadLines = false;
     while (true) {
         if (interactive)
             out << "velkor6> " << std::flush;
         if (!std::getline(in, line))
             break;
+        ++lineNumber;
         if (!line.empty() && line.back() == '\r')
             line.pop_back();
         const std::u16string text = fromUtf8(line);
@@ -241,13 +252,18 @@ int runScript(const Options& options, std::istream& in, std::ostream& out, std::
         } catch (const VbError& e) {
             out << std::flush;
             printError(e, err);
+        } catch (const UsageError& e) {
+            out << std::flush;
+            err << "velkor6: line " << lineNumber << ": " << e.what() << '\n';
+            unreadLines = true;
         }
         out << std::flush;
     }
     if (interactive)
         out << '\n';
-    // A raised error is one of the results a script shows, not a failure of the program.
-    return 0;
+    // A raised error is one of the results a script shows, not a failure of the program; a
+    // line that could not be read is.
+    return unreadLines ? 2 : 0;
 }
 
 namespace {

@@ -13,7 +13,7 @@ struct Options {
     std::string locale; // empty: the user's locale
     // With an application name, calls go to the applib that vkrInitApp makes for it.
     std::string appName;
-    std::string appPath = ".";
+    std::string appPath; // empty: the current folder, made absolute
     std::string appVersion;
 };
 

@@ -23,8 +23,47 @@ bool isIdentChar(char16_t c) {
     return isLetter(c) || isDigit(c) || c == u'_';
 }
 
-[[noreturn]] void syntaxError(std::u16string what) {
-    throw VbError(2, u"Syntax error: " + what, u"velkor6");
+[[noreturn]] void syntaxError(const std::u16string& what) {
+    throw UsageError("syntax error: " + toUtf8(what));
+}
+
+[[noreturn]] void outOfRange(std::u16string_view literal, std::string_view type) {
+    throw UsageError("overflow: " + toUtf8(literal) + " is beyond the range of " +
+                     std::string(type));
+}
+
+// The largest magnitude that still rounds to a finite Single: halfway between the largest
+// Single and 2^128.
+constexpr double singleLimit = 0x1.ffffffp+127;
+
+// The Currency of "digits[.digits]" exactly, past the fourth decimal rounded half to even as
+// VB rounds a Currency; nullopt beyond its range.
+std::optional<std::int64_t> exactCurrency(std::string_view text, bool negative) {
+    const std::size_t dot = std::min(text.find('.'), text.size());
+    const std::string_view whole = text.substr(0, dot);
+    const std::string_view fraction = text.substr(std::min(dot + 1, text.size()));
+    std::uint64_t scaled = 0;
+    auto push = [&scaled](char digit) {
+        return !__builtin_mul_overflow(scaled, 10u, &scaled) &&
+               !__builtin_add_overflow(scaled, static_cast<unsigned>(digit - '0'), &scaled);
+    };
+    for (char c : whole)
+        if (!push(c))
+            return std::nullopt;
+    for (std::size_t i = 0; i < 4; ++i)
+        if (!push(i < fraction.size() ? fraction[i] : '0'))
+            return std::nullopt;
+    if (fraction.size() > 4) {
+        const std::string_view rest = fraction.substr(4);
+        const bool aboveHalf =
+            rest[0] > '5' || (rest[0] == '5' && rest.find_first_not_of('0', 1) != rest.npos);
+        if (aboveHalf || (rest[0] == '5' && !aboveHalf && scaled % 2 == 1))
+            ++scaled;
+    }
+    const std::uint64_t limit = std::uint64_t{1} << 63;
+    if (scaled > (negative ? limit : limit - 1))
+        return std::nullopt;
+    return negative ? static_cast<std::int64_t>(0 - scaled) : static_cast<std::int64_t>(scaled);
 }
 
 // A recursive-descent reader of VB literals; every parse function either consumes a literal
@@ -136,6 +175,7 @@ private:
 
     // #yyyy-mm-dd#, #yyyy-mm-dd hh:nn#, #yyyy-mm-dd hh:nn:ss#
     std::optional<Variant> dateLiteral() {
+        const std::size_t start = pos_;
         ++pos_;
         DateParts p;
         auto y = digits(4);
@@ -174,6 +214,10 @@ private:
         if (peek() != u'#')
             return std::nullopt;
         ++pos_;
+        // A Date holds the years 100 to 9999; four digits leave no two-digit year to read.
+        if (p.year < 100)
+            throw UsageError("date " + toUtf8(s_.substr(start, pos_ - start)) +
+                             " is before the year 100, the first a Date holds");
         if (p.month < 1 || p.month > 12 || p.day < 1 || p.day > 31 || p.hour > 23 ||
             p.minute > 59 || p.second > 59)
             return std::nullopt;
@@ -230,6 +274,7 @@ private:
     }
 
     std::optional<Variant> numberLiteral() {
+        const std::size_t start = pos_;
         bool negative = false;
         if (peek() == u'-' || peek() == u'+') {
             negative = peek() == u'-';
@@ -264,43 +309,72 @@ private:
             }
         }
         double magnitude = 0;
-        if (std::from_chars(text.data(), text.data() + text.size(), magnitude).ec != std::errc())
+        const auto parsed = std::from_chars(text.data(), text.data() + text.size(), magnitude);
+        const bool fitsDouble = parsed.ec == std::errc();
+        if (!fitsDouble && parsed.ec != std::errc::result_out_of_range)
             return std::nullopt;
         const double value = negative ? -magnitude : magnitude;
 
+        // A number with a suffix only makes a literal when no word goes on after it; then a
+        // value its type cannot hold is an overflow, not a text.
+        auto suffixed = [&](bool fits, std::string_view type) {
+            ++pos_;
+            if (isIdentChar(peek()))
+                return false;
+            if (!fits)
+                outOfRange(s_.substr(start, pos_ - start), type);
+            return true;
+        };
         const char16_t suffix = peek();
         switch (suffix) {
         case u'%':
-            ++pos_;
-            if (fractional || magnitude > 32767.0 + (negative ? 1 : 0))
+            if (fractional)
+                return std::nullopt;
+            if (!suffixed(fitsDouble && magnitude <= 32767.0 + (negative ? 1 : 0), "an Integer"))
                 return std::nullopt;
             return Variant(static_cast<std::int16_t>(value));
         case u'&':
             // A following "H" or "O" would be another literal; "1&" alone is a Long.
             if (pos_ + 1 < s_.size() && isIdentChar(s_[pos_ + 1]))
                 break;
-            ++pos_;
-            if (fractional || magnitude > 2147483647.0 + (negative ? 1 : 0))
+            if (fractional)
+                return std::nullopt;
+            if (!suffixed(fitsDouble && magnitude <= 2147483647.0 + (negative ? 1 : 0), "a Long"))
                 return std::nullopt;
             return Variant(static_cast<std::int32_t>(value));
-        case u'!':
-            ++pos_;
-            return Variant(static_cast<float>(value));
+        case u'!': {
+            if (!suffixed(fitsDouble && magnitude < singleLimit, "a Single"))
+                return std::nullopt;
+            // Rounded once, from the digits: rounding through a Double could land on the
+            // next Single. The reader gives up on denormals, which the Double path serves.
+            float single = 0;
+            if (std::from_chars(text.data(), text.data() + text.size(), single).ec != std::errc())
+                single = static_cast<float>(magnitude);
+            return Variant(negative ? -single : single);
+        }
         case u'#':
-            ++pos_;
+            if (!suffixed(fitsDouble, "a Double"))
+                return std::nullopt;
             return Variant(value);
         case u'@': {
-            ++pos_;
-            const double scaled = value * 10000.0;
-            if (std::fabs(scaled) >= 9.2233720368547758e18)
+            // Digits alone are read exactly: a Double holds only 15 or so of a Currency's 19.
+            std::optional<std::int64_t> scaled;
+            if (text.find('e') == text.npos) {
+                scaled = exactCurrency(text, negative);
+            } else if (const double d = value * 10000.0; std::fabs(d) < 9.2233720368547758e18) {
+                scaled = std::llround(d);
+            }
+            if (!suffixed(fitsDouble && scaled.has_value(), "a Currency"))
                 return std::nullopt;
-            return Variant(Currency{static_cast<std::int64_t>(std::llround(scaled))});
+            return Variant(Currency{*scaled});
         }
         default:
             break;
         }
         if (isIdentChar(suffix))
             return std::nullopt;
+        if (!fitsDouble)
+            outOfRange(s_.substr(start, pos_ - start), "a Double");
         if (fractional)
             return Variant(value);
         // VB types a literal by its magnitude before the sign applies: -32768 is a Long.
@@ -344,6 +418,14 @@ private:
         if (is(u"Array")) {
             if (!accept(u'('))
                 return std::nullopt;
+            if (depth_ == maxArrayDepth)
+                throw UsageError("Array(...) nested deeper than " + std::to_string(maxArrayDepth) +
+                                 " levels");
+            struct Level {
+                int& depth;
+                explicit Level(int& d) : depth(++d) {}
+                ~Level() { --depth; }
+            } level(depth_);
             std::vector<Variant> items;
             if (!accept(u')')) {
                 do {
@@ -362,6 +444,7 @@ private:
 
     std::u16string_view s_;
     std::size_t pos_ = 0;
+    int depth_ = 0; // of Array(...) nesting; each level recurses
 };
 
 // "name:=" at the reader's position, or "" (and the position unchanged).
@@ -382,9 +465,14 @@ std::u16string argumentName(Reader& r) {
 
 // The shortest digits that read back to the same value, laid out as VB shows a literal: plain
 // notation for exponents from -5 to 14, E notation beyond.
+// Infinities and NaNs, which no literal writes, come out as VB shows them.
 std::u16string numberText(double d, bool single) {
     if (d == 0)
         return std::signbit(d) ? u"-0" : u"0";
+    if (std::isinf(d))
+        return d < 0 ? u"-1.#INF" : u"1.#INF";
+    if (std::isnan(d))
+        return std::signbit(d) ? u"-1.#IND" : u"1.#QNAN";
     char buf[64];
     const auto res = single
                          ? std::to_chars(buf, buf + sizeof buf, static_cast<float>(d),
@@ -392,12 +480,16 @@ std::u16string numberText(double d, bool single) {
                          : std::to_chars(buf, buf + sizeof buf, d, std::chars_format::scientific);
     const std::string sci(buf, res.ptr); // "-1.2345e+03"
     const std::size_t e = sci.find('e');
+    if (res.ec != std::errc() || e == std::string::npos)
+        return fromUtf8(sci);
     const bool negative = sci[0] == '-';
     std::string digits;
     for (std::size_t i = negative ? 1 : 0; i < e; ++i)
         if (sci[i] != '.')
             digits += sci[i];
-    const int exponent = std::stoi(sci.substr(e + 1));
+    int exponent = 0;
+    std::from_chars(sci.data() + e + (sci[e + 1] == '+' ? 2 : 1), sci.data() + sci.size(),
+                    exponent);
     std::string out = negative ? "-" : "";
     if (exponent < -5 || exponent >= 15) {
         out += digits.substr(0, 1);
@@ -555,9 +647,12 @@ std::u16string typedLiteral(const Variant& v) {
         return fromUtf8((scaled < 0 ? "-" : "") + text) + u"@";
     }
     case VarType::Date: {
+        const double serial = v.date().serial;
+        if (!(serial > minDateSerial - 1 && serial < maxDateSerial))
+            return u"CDate(" + numberText(serial, false) + u"#)";
         const DateParts p = splitDate(v.date());
         std::u16string out =
-            u"#" + fromUtf8(std::to_string(p.year)) + u"-" + two(p.month) + u"-" + two(p.day);
+            u"#" + two(p.year / 100) + two(p.year % 100) + u"-" + two(p.month) + u"-" + two(p.day);
         if (p.hour != 0 || p.minute != 0 || p.second != 0)
             out += u" " + two(p.hour) + u":" + two(p.minute) + u":" + two(p.second);
         return out + u"#";

@@ -5,11 +5,19 @@
 #include "velkor6/variant.h"
 
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace velkor6::cli {
+
+// A command line or script line the program cannot use: the message names the problem. The
+// program answers it with exit status 2, unlike an error a member raises.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
 
 // "Missing" stands for an omitted optional argument.
 struct ParsedArgument {
@@ -19,15 +27,18 @@ struct ParsedArgument {
 
 // Reads a whole text as one literal: "text" (with "" for a quote, pieces joined by & and
 // Chr(N)), whole numbers (Integer, Long, else Double), suffixes % & ! # @, decimals, &H / &O,
-// #yyyy-mm-dd[ hh:nn[:ss]]#, True, False, Null, Empty, Nothing, Missing and Array(...).
-// nullopt when the text is not exactly one literal.
+// #yyyy-mm-dd[ hh:nn[:ss]]# (years 0100 to 9999), True, False, Null, Empty, Nothing, Missing
+// and Array(...). nullopt when the text is not exactly one literal; raises UsageError for a
+// literal whose value its type cannot hold (32768%, 1E39!, #0050-01-01#) and for Array(...)
+// nested deeper than maxArrayDepth.
+inline constexpr int maxArrayDepth = 100;
 std::optional<Variant> parseLiteral(std::u16string_view text);
 
 // One command-line argument: "name:=literal" or a literal; any other text is a String as written.
 ParsedArgument parseCommandArgument(std::u16string_view text);
 
 // A call in VB syntax: member(arg, , name:=value) or member arg, arg; with "= value" after it,
-// a property assignment. Raises VbError for a line that does not parse.
+// a property assignment. Raises UsageError for a line that does not parse.
 struct ParsedCall {
     std::u16string member;
     std::vector<ParsedArgument> arguments;
@@ -36,7 +47,9 @@ struct ParsedCall {
 ParsedCall parseCallLine(std::u16string_view line);
 
 // The typed literal of a value: 1% 2& 1.5! 1.5# 12.5@ True Empty Null Nothing #2024-03-15#
-// "text" with Chr(N) for control characters, Array(...).
+// (years always with four digits: #0100-01-01#), "text" with Chr(N) for control characters,
+// Array(...). Values no literal writes come out as VB shows them: 1.#INF#, -1.#IND#, and a
+// date serial outside the calendar as CDate(...).
 std::u16string typedLiteral(const Variant& v);
 
 } // namespace velkor6::cli

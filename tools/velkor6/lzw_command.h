@@ -1,5 +1,5 @@
-// velkor6 deflate / velkor6 inflate [--strict]: compress or decompress standard input to standard
-// output, each byte standing for the character with that ANSI code.
+// velkor6 deflate / velkor6 inflate [--compatible]: compress or decompress standard input to
+// standard output, each byte standing for the character with that ANSI code.
 #pragma once
 
 #include <iosfwd>
@@ -8,7 +8,8 @@
 namespace velkor6::cli {
 
 int runDeflate(std::istream& in, std::ostream& out);
-// Decodes like "Inflate", or like "InflateStrict" when `strict`, writing the output as it comes.
+// Decodes like "InflateStrict" (every stream deflate writes back to its bytes) when `strict`, else
+// like "Inflate", writing the output as it comes.
 // A damaged stream ends with an error message on `err` after the output decoded before it.
 int runInflate(std::istream& in, std::ostream& out, bool strict, std::ostream& err = std::cerr);
 

@@ -16,7 +16,9 @@ constexpr const char* usage =
     "       velkor6 --app NAME [--app-path DIR] [--app-version 6.1.23] call MEMBER [ARG ...]\n"
     "       velkor6 members [--markdown | --idl]\n"
     "       velkor6 deflate < text > packed\n"
-    "       velkor6 inflate [--strict] < packed > text\n";
+    "       velkor6 inflate [--compatible] < packed > text\n"
+    "         gives back exactly the text deflate packed; --compatible decodes as the\n"
+    "         \"Inflate\" member does, which alters texts long enough to fill its dictionary\n";
 
 } // namespace
 
@@ -75,8 +77,10 @@ int main(int argc, char** argv) {
     }
     if (command == "deflate" && rest.empty())
         return velkor6::cli::runDeflate(std::cin, std::cout);
-    if (command == "inflate" && (rest.empty() || (rest.size() == 1 && rest[0] == "--strict")))
-        return velkor6::cli::runInflate(std::cin, std::cout, !rest.empty());
+    // --strict names the default, which it was before the default changed.
+    if (command == "inflate" && (rest.empty() || (rest.size() == 1 && (rest[0] == "--strict" ||
+                                                                       rest[0] == "--compatible"))))
+        return velkor6::cli::runInflate(std::cin, std::cout, rest.empty() || rest[0] == "--strict");
     std::cerr << "velkor6: unknown command '" << command << "'\n" << usage;
     return 2;
 }
