@@ -4,6 +4,8 @@
 
 #include "core/text.h"
 #include "fuzz_input.h"
+#include "platform/ansi.h"
+#include "platform/text_file.h"
 
 #include <cstdlib>
 #include <utility>
@@ -39,11 +41,11 @@ bool hasLineBreak(std::u16string_view s) {
 }
 
 // Whether the file's encoding holds the text: an ANSI file has no place for other characters.
-bool encodable(std::u16string_view s, app::TextEncoding encoding) {
+bool encodable(std::u16string_view s, TextEncoding encoding) {
     switch (encoding) {
-    case app::TextEncoding::Ansi:
+    case TextEncoding::Ansi:
         return fromAnsi(toAnsi(s)) == s;
-    case app::TextEncoding::Utf8:
+    case TextEncoding::Utf8:
         return fromUtf8(toUtf8(s)) == s;
     default:
         return true;

@@ -1,11 +1,11 @@
 // The text members with any texts, positions and lengths; the errors they raise are results.
-#include "text/text_members.h"
-
 #include "fuzz_input.h"
+#include "velkor6/lib.h"
 #include "velkor6/vb_error.h"
 
+#include <memory>
+
 using namespace velkor6;
-using namespace velkor6::text;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     fuzz::Input in(data, size);
@@ -17,7 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::u16string find = in.text();
     const std::u16string other = in.text();
     const std::u16string signs = in.text();
-    const Locale& loc = Locale::englishUS();
+    // The text members need no operating-system service: a bare platform will do.
+    static lib l(std::make_shared<Module>(std::make_unique<Platform>(), Locale::englishUS()));
 
     auto guarded = [](auto call) {
         try {
@@ -27,30 +28,30 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     };
     guarded([&] {
         std::u16string found;
-        vkrFindSubString(source, find, start, flag(0), flag(1), flag(2), &found);
+        l.vkrFindSubString(source, find, start, flag(0), flag(1), flag(2), &found);
     });
-    guarded([&] { vkrFindLastSubString(source, find, start, flag(0)); });
-    guarded([&] { vkrHasSubString(source, find, start, flag(0)); });
-    guarded([&] { vkrCountSubString(source, find, start, flag(0)); });
-    guarded([&] { vkrCountSubStringExt(source, find, start, flag(0), signs); });
-    guarded([&] { vkrGetSubString(source, find, other, start, flag(0), flag(1)); });
+    guarded([&] { l.vkrFindLastSubString(source, find, start, flag(0)); });
+    guarded([&] { l.vkrHasSubString(source, find, start, flag(0)); });
+    guarded([&] { l.vkrCountSubString(source, find, start, flag(0)); });
+    guarded([&] { l.vkrCountSubStringExt(source, find, start, flag(0), signs); });
+    guarded([&] { l.vkrGetSubString(source, find, other, start, flag(0), flag(1)); });
     guarded([&] {
         std::u16string before, term, after;
-        vkrSeparateString(source, find, before, term, after, start, flag(0));
+        l.vkrSeparateString(source, find, before, term, after, start, flag(0));
     });
     guarded([&] {
-        vkrReplaceInString(source, find, other, start, flag(0), flag(1), flag(2), flag(3));
+        l.vkrReplaceInString(source, find, other, start, flag(0), flag(1), flag(2), flag(3));
     });
     guarded([&] {
-        vkrReplaceInStringExt(source, find, other, loc, start, flag(0), flag(1), flag(2), flag(4),
-                              flag(5), signs);
+        l.vkrReplaceInStringExt(source, find, other, start, flag(0), flag(1), flag(2), flag(4),
+                                flag(5), signs);
     });
-    guarded([&] { vkrIsInSigns(source, signs, start, length); });
-    guarded([&] { vkrIsNumericWord(source, start, length, loc); });
-    guarded([&] { vkrMid(source, start, length); });
+    guarded([&] { l.vkrIsInSigns(source, signs, start, length); });
+    guarded([&] { l.vkrIsNumericWord(source, start, length); });
+    guarded([&] { l.vkrMid(source, start, length); });
     guarded([&] {
         std::u16string target = source;
-        vkrMidLet(target, start, length, other);
+        l.vkrMidLet(target, start, length, other);
     });
     return 0;
 }

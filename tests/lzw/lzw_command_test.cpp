@@ -1,6 +1,7 @@
 #include "core/text.h"
 #include "lzw/global_var.h"
 #include "lzw_command.h"
+#include "platform/ansi.h"
 
 #include <gtest/gtest.h>
 #include <sstream>
