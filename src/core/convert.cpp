@@ -162,6 +162,8 @@ std::u16string integerText(std::int64_t v) {
     return std::u16string(buf, end);
 }
 
+} // namespace
+
 std::u16string_view typeBaseName(VarType t) {
     switch (t) {
     case VarType::Empty:
@@ -198,8 +200,6 @@ std::u16string_view typeBaseName(VarType t) {
         return u"Unknown";
     }
 }
-
-} // namespace
 
 double roundHalfEven(double d) {
     const double below = std::floor(d);

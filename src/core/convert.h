@@ -1,13 +1,12 @@
 // VB's conversions between Variant types (CInt, CLng, CDbl, CStr, ...), locale-aware.
 #pragma once
 
-#include <optional>
-
 #include "core/text.h"
-#include <string>
-
 #include "velkor6/locale.h"
 #include "velkor6/variant.h"
+
+#include <optional>
+#include <string>
 
 namespace velkor6 {
 
@@ -56,6 +55,8 @@ Currency currencyFromDouble(double d); // half to even at the fourth decimal; er
 std::optional<int> compareVariants(const Variant& a, const Variant& b, Compare mode,
                                    const Locale& loc);
 
+// The name of a scalar type as TypeName() writes it: "Integer", "String", "Empty", ...
+std::u16string_view typeBaseName(VarType t);
 // TypeName() of a value: "Integer", "String", "Variant()", ...
 std::u16string typeName(const Variant& v);
 

@@ -109,30 +109,12 @@ std::u16string typeLabel(VarType t) {
     if (isArrayType(t))
         return typeLabel(elementType(t)) + u"()";
     switch (t) {
-    case VarType::Integer:
-        return u"Integer";
-    case VarType::Long:
-        return u"Long";
-    case VarType::Single:
-        return u"Single";
-    case VarType::Double:
-        return u"Double";
-    case VarType::Currency:
-        return u"Currency";
-    case VarType::Date:
-        return u"Date";
-    case VarType::String:
-        return u"String";
-    case VarType::Object:
-        return u"Object";
-    case VarType::Boolean:
-        return u"Boolean";
-    case VarType::Decimal:
-        return u"Decimal";
-    case VarType::Byte:
-        return u"Byte";
+    case VarType::Empty:
+    case VarType::Null:
+    case VarType::Error:
+        return u"Variant"; // what a declaration says of a value that may be any of them
     default:
-        return u"Variant";
+        return std::u16string(typeBaseName(t));
     }
 }
 
