@@ -21,7 +21,8 @@ install(FILES ${PROJECT_SOURCE_DIR}/docs/members.md DESTINATION ${CMAKE_INSTALL_
 get_target_property(velkor6_type velkor6 TYPE)
 if(NOT WIN32 AND velkor6_type STREQUAL "STATIC_LIBRARY")
   set(VELKOR6_NEEDS_PUGIXML ON)
-  set(VELKOR6_FIND_DEPENDENCIES "# The static library links pugixml::static.\nfind_dependency(pugixml)\n")
+  set(VELKOR6_FIND_DEPENDENCIES
+      "# The static library links pugixml::static.\nfind_dependency(pugixml)\n")
 else()
   set(VELKOR6_NEEDS_PUGIXML OFF)
   set(VELKOR6_FIND_DEPENDENCIES "")

@@ -40,12 +40,14 @@ expected=$( (cd "$root/include" && find velkor6 -name '*.h' | sed 's|^|include/|
                 "$libdir/cmake/velkor6/velkor6-config-version.cmake" \
                 "$libdir/cmake/velkor6/velkor6-targets.cmake" \
                 "$libdir/cmake/velkor6/velkor6-targets-CONFIG.cmake")
-actual=$(cd "$prefix" && find . ! -type d | sed 's|^\./||; s|velkor6-targets-[a-z]*\.cmake$|velkor6-targets-CONFIG.cmake|')
+actual=$(cd "$prefix" && find . ! -type d |
+         sed 's|^\./||; s|velkor6-targets-[a-z]*\.cmake$|velkor6-targets-CONFIG.cmake|')
 if ! diff <(sort <<<"$expected") <(sort <<<"$actual"); then
     fail "installed files differ from the expected ones (< expected, > installed)"
 fi
 # The layers are built into the library: a consumer must not be sent looking for them.
-if grep -l 'velkor6_core\|velkor6_platform\|velkor6_subsystems' "$prefix/$libdir/cmake/velkor6/"*.cmake "$pc"; then
+if grep -l 'velkor6_core\|velkor6_platform\|velkor6_subsystems' \
+       "$prefix/$libdir/cmake/velkor6/"*.cmake "$pc"; then
     fail "the installed package names the build's internal layers"
 fi
 
@@ -55,22 +57,31 @@ if cmake -S "$here" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_C
     cmake --build "$work/cmake" >"$work/build.log" 2>&1; then
     # Found in the prefix, not in some other install on the machine.
     grep -q "velkor6 .* in $prefix/" "$work/configure.log" ||
-        fail "find_package did not take velkor6 from the prefix: $(grep 'velkor6 .* in' "$work/configure.log")"
+        fail "find_package took velkor6 elsewhere: $(grep 'velkor6 .* in' "$work/configure.log")"
     out=$("$work/cmake/consumer") || fail "the CMake-built consumer exited with status $?"
-    [ "$out" = 1 ] && echo "prints $out" || fail "the CMake-built consumer printed '$out', expected 1"
+    if [ "$out" = 1 ]; then
+        echo "prints $out"
+    else
+        fail "the CMake-built consumer printed '$out', expected 1"
+    fi
 else
     cat "$work/configure.log" "$work/build.log" 2>/dev/null
     fail "the consumer did not build with find_package"
 fi
 
 echo "== pkg-config velkor6"
-export PKG_CONFIG_PATH=$(dirname "$pc")
+PKG_CONFIG_PATH=$(dirname "$pc")
+export PKG_CONFIG_PATH
 flags=$(pkg-config --cflags --libs velkor6)
 echo "pkg-config --cflags --libs velkor6: $flags"
 # shellcheck disable=SC2086 # the flags are words
 if "$cxx" -std=c++20 "$here/main.cpp" $flags -o "$work/consumer-pc"; then
     out=$("$work/consumer-pc") || fail "the pkg-config-built consumer exited with status $?"
-    [ "$out" = 1 ] && echo "prints $out" || fail "the pkg-config-built consumer printed '$out', expected 1"
+    if [ "$out" = 1 ]; then
+        echo "prints $out"
+    else
+        fail "the pkg-config-built consumer printed '$out', expected 1"
+    fi
 else
     fail "the consumer did not build with pkg-config"
 fi
