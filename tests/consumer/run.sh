@@ -1,0 +1,90 @@
+#!/usr/bin/env bash
+# Installs velkor6 into a temporary prefix and builds a program against it the two ways a user
+# would: with CMake's find_package and with pkg-config. Each build must run and print 1.
+#
+#   tests/consumer/run.sh [BUILD_DIR]
+#
+# With BUILD_DIR, installs from that build as it is (the CTest `consumer` does so); without,
+# configures and builds velkor6 in build/consumer first.
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+root=$(cd "$here/../.." && pwd)
+cxx=${CXX:-g++}
+
+if [ $# -ge 1 ]; then
+    build=$1
+else
+    build=$root/build/consumer
+    cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DVELKOR6_TESTS=OFF >/dev/null
+    cmake --build "$build"
+fi
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+prefix=$work/prefix
+failed=0
+fail() { echo "FAIL $*"; failed=1; }
+
+echo "== install into $prefix"
+cmake --install "$build" --prefix "$prefix" >/dev/null
+
+# The install holds the headers, the library with its CMake package and pkg-config file, the
+# program and the member reference, nothing else.
+pc=$(find "$prefix" -name velkor6.pc)
+[ -n "$pc" ] || { echo "FAIL no velkor6.pc installed"; exit 1; }
+libdir=$(dirname "$(dirname "${pc#"$prefix"/}")")
+expected=$( (cd "$root/include" && find velkor6 -name '*.h' | sed 's|^|include/|')
+            grep -q '^VELKOR6_PROGRAM:BOOL=ON$' "$build/CMakeCache.txt" && echo bin/velkor6
+            printf '%s\n' share/doc/velkor6/members.md "$libdir/libvelkor6.a" \
+                "$libdir/pkgconfig/velkor6.pc" "$libdir/cmake/velkor6/velkor6-config.cmake" \
+                "$libdir/cmake/velkor6/velkor6-config-version.cmake" \
+                "$libdir/cmake/velkor6/velkor6-targets.cmake" \
+                "$libdir/cmake/velkor6/velkor6-targets-CONFIG.cmake")
+actual=$(cd "$prefix" && find . ! -type d |
+         sed 's|^\./||; s|velkor6-targets-[a-z]*\.cmake$|velkor6-targets-CONFIG.cmake|')
+if ! diff <(sort <<<"$expected") <(sort <<<"$actual"); then
+    fail "installed files differ from the expected ones (< expected, > installed)"
+fi
+# The layers are built into the library: a consumer must not be sent looking for them.
+if grep -l 'velkor6_core\|velkor6_platform\|velkor6_subsystems' \
+       "$prefix/$libdir/cmake/velkor6/"*.cmake "$pc"; then
+    fail "the installed package names the build's internal layers"
+fi
+
+echo "== find_package(velkor6)"
+if cmake -S "$here" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$cxx" \
+       >"$work/configure.log" 2>&1 &&
+    cmake --build "$work/cmake" >"$work/build.log" 2>&1; then
+    # Found in the prefix, not in some other install on the machine.
+    grep -q "velkor6 .* in $prefix/" "$work/configure.log" ||
+        fail "find_package took velkor6 elsewhere: $(grep 'velkor6 .* in' "$work/configure.log")"
+    out=$("$work/cmake/consumer") || fail "the CMake-built consumer exited with status $?"
+    if [ "$out" = 1 ]; then
+        echo "prints $out"
+    else
+        fail "the CMake-built consumer printed '$out', expected 1"
+    fi
+else
+    cat "$work/configure.log" "$work/build.log" 2>/dev/null
+    fail "the consumer did not build with find_package"
+fi
+
+echo "== pkg-config velkor6"
+PKG_CONFIG_PATH=$(dirname "$pc")
+export PKG_CONFIG_PATH
+flags=$(pkg-config --cflags --libs velkor6)
+echo "pkg-config --cflags --libs velkor6: $flags"
+# shellcheck disable=SC2086 # the flags are words
+if "$cxx" -std=c++20 "$here/main.cpp" $flags -o "$work/consumer-pc"; then
+    out=$("$work/consumer-pc") || fail "the pkg-config-built consumer exited with status $?"
+    if [ "$out" = 1 ]; then
+        echo "prints $out"
+    else
+        fail "the pkg-config-built consumer printed '$out', expected 1"
+    fi
+else
+    fail "the consumer did not build with pkg-config"
+fi
+
+[ "$failed" = 0 ] && echo "consumer: passed"
+exit "$failed"
