@@ -40,16 +40,12 @@ bool hasLineBreak(std::u16string_view s) {
     return s.find_first_of(u"\r\n") != s.npos;
 }
 
-// Whether the file's encoding holds the text: an ANSI file has no place for other characters.
+// Whether the file can hold the text. UTF-16 holds any; an ANSI file that meets a character its
+// code page lacks is written as UTF-8, and UTF-8 has no place for a lone surrogate.
 bool encodable(std::u16string_view s, TextEncoding encoding) {
-    switch (encoding) {
-    case TextEncoding::Ansi:
-        return fromAnsi(toAnsi(s)) == s;
-    case TextEncoding::Utf8:
-        return fromUtf8(toUtf8(s)) == s;
-    default:
+    if (encoding == TextEncoding::Utf16Le || encoding == TextEncoding::Utf16Be)
         return true;
-    }
+    return fromUtf8(toUtf8(s)) == s;
 }
 
 void sameSettings(const app::IniDocument& a, const app::IniDocument& b,
