@@ -39,9 +39,14 @@ TextEncoding textEncoding(std::string_view bytes) {
 TextEncoding writeEncoding(TextEncoding read, std::u16string_view text) {
     if (read != TextEncoding::Ansi || newTextEncoding() != TextEncoding::Utf8)
         return read;
+    // UTF-8 where the code page would lose a character, and where the code page's bytes would read
+    // back as UTF-8 (the text "\u00C3\u00A4" in Windows-1252 is the UTF-8 of "\u00E4"): in UTF-8
+    // both read back as written. Text in ASCII is the same bytes either way.
     const bool lossless =
         std::all_of(text.begin(), text.end(), [](char16_t c) { return charToAnsi(c) >= 0; });
-    return lossless ? read : TextEncoding::Utf8;
+    if (!lossless || plainTextEncoding(toAnsi(text)) != TextEncoding::Ansi)
+        return TextEncoding::Utf8;
+    return read;
 }
 
 std::u16string decodeText(std::string_view bytes, TextEncoding encoding) {

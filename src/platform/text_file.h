@@ -18,8 +18,9 @@ TextEncoding plainTextEncoding(std::string_view bytes);
 TextEncoding textEncoding(std::string_view bytes);
 // The encoding of a file that does not exist yet.
 TextEncoding newTextEncoding();
-// The encoding to write text in to a file that was in `read`: the same, unless the code page lacks
-// a character of text and the system's text is UTF-8 (then UTF-8, so that nothing is lost).
+// The encoding to write text in to a file that was in `read`: the same, unless the system's text is
+// UTF-8 and the code page lacks a character of text or its bytes would read as UTF-8 (then UTF-8,
+// so that the file reads back as written).
 TextEncoding writeEncoding(TextEncoding read, std::u16string_view text);
 
 // The text of bytes in encoding; a byte-order mark of that encoding is skipped.

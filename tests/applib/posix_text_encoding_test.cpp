@@ -39,6 +39,12 @@ TEST(TextFileEncoding, ValidUtf8OrElseWindows1252) {
     EXPECT_EQ(writeEncoding(TextEncoding::Ansi, u"K\u00E4se \u20AC"), TextEncoding::Ansi);
     EXPECT_EQ(writeEncoding(TextEncoding::Ansi, lodz), TextEncoding::Utf8);
     EXPECT_EQ(writeEncoding(TextEncoding::Utf16Be, lodz), TextEncoding::Utf16Be);
+    // Text whose Windows-1252 bytes happen to be UTF-8 ("\u00C3\u00A4" is the UTF-8 of "\u00E4")
+    // would read back as other text: it goes out as UTF-8 too.
+    const std::u16string mojibake = u"k=\u00C3\u00A4";
+    EXPECT_EQ(writeEncoding(TextEncoding::Ansi, mojibake), TextEncoding::Utf8);
+    const std::string bytes = encodeText(mojibake, writeEncoding(TextEncoding::Ansi, mojibake));
+    EXPECT_EQ(decodeText(bytes, plainTextEncoding(bytes)), mojibake);
     EXPECT_EQ(encodeText(u"x", TextEncoding::Utf16Le, false), std::string("x\0", 2));
 }
 
