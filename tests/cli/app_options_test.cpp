@@ -1,6 +1,7 @@
 #include "app_options.h"
 #include "literal.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace velkor6::cli {
@@ -31,7 +32,7 @@ TEST(CliAppOptions, VersionIsUpToThreeIntegers) {
     options.appVersion = "40000";
     EXPECT_THROW(resolveAppOptions(options), UsageError);
     options.appVersion = "1.2";
-    EXPECT_EQ(resolveAppOptions(options).appPath.front(), '/');
+    EXPECT_TRUE(std::filesystem::path(resolveAppOptions(options).appPath).is_absolute());
 }
 
 } // namespace
