@@ -135,6 +135,11 @@ bool sameDefault(const std::string& cpp, const Variant& row) {
     return false;
 }
 
+// The table spells a parameter the IDL reserves as the type library does.
+std::string rowNameOf(const std::string& cppName) {
+    return cppName == "defaultValue" ? "default" : cppName;
+}
+
 template <class Target>
 void checkDefaults(const Table<Target>& table, const std::string& header, const std::string& cls) {
     const auto cpp = declarations(header, cls);
@@ -146,8 +151,7 @@ void checkDefaults(const Table<Target>& table, const std::string& header, const 
             continue;
         }
         for (const CppParam& p : it->second) {
-            // The table spells a parameter the IDL reserves as the type library does.
-            const std::string rowName = p.name == "defaultValue" ? "default" : p.name;
+            const std::string rowName = rowNameOf(p.name);
             const Param* row = nullptr;
             for (const Param& candidate : m.params) {
                 if (toUtf8(candidate.name) == rowName)
@@ -164,7 +168,7 @@ void checkDefaults(const Table<Target>& table, const std::string& header, const 
         // unless a parameter without one follows it (a let's assigned value).
         bool laterRequired = false;
         for (auto p = it->second.rbegin(); p != it->second.rend(); ++p) {
-            const std::string rowName = p->name == "defaultValue" ? "default" : p->name;
+            const std::string rowName = rowNameOf(p->name);
             for (const Param& row : m.params) {
                 if (toUtf8(row.name) == rowName && row.optional && !laterRequired)
                     EXPECT_FALSE(p->defaultText.empty())
