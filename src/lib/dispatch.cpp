@@ -84,7 +84,11 @@ Binding bindArguments(std::span<const Param> params, std::span<Argument> args, c
         given[slot] = true;
         if (arg.value == nullptr || arg.value->isMissing())
             continue;
-        b.values[slot] = coerce(*arg.value, params[slot].type, loc);
+        try {
+            b.values[slot] = coerce(*arg.value, params[slot].type, loc);
+        } catch (const VbError& e) {
+            throw ArgumentError(e, slot);
+        }
         b.sources[slot] = arg.value;
     }
 

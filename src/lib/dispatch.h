@@ -5,6 +5,7 @@
 
 #include "velkor6/locale.h"
 #include "velkor6/variant.h"
+#include "velkor6/vb_error.h"
 
 #include <cstdint>
 #include <span>
@@ -98,6 +99,18 @@ struct Argument {
 template <class Target>
 const Member<Target>* find(const Table<Target>& table, std::u16string_view name, CallKind kind);
 
+// A conversion error (13, 6) of one argument: the same number, description and source as the
+// plain error, which COM clients see unchanged, and the parameter whose value did not fit, which
+// front ends that show errors to people name.
+class ArgumentError : public VbError {
+public:
+    ArgumentError(const VbError& error, std::size_t param) : VbError(error), param_(param) {}
+    std::size_t param() const { return param_; }
+
+private:
+    std::size_t param_;
+};
+
 // The arguments of one call bound to a member's parameters: one coerced value per parameter,
 // and for each the caller's value it came from (nullptr when the argument was omitted).
 struct Binding {
@@ -108,7 +121,7 @@ struct Binding {
 // Binds the arguments to the member's parameters: positional first, then named; omitted
 // optionals (not passed, or Missing) take their defaults. Raises 449 for a missing required
 // argument, 448 for an unknown name, 450 for too many arguments or one bound twice, and the
-// conversion errors (13, 6) for a value that does not fit the declared type.
+// conversion errors (13, 6) as ArgumentError for a value that does not fit the declared type.
 Binding bindArguments(std::span<const Param> params, std::span<Argument> args, const Locale& loc);
 // Writes the ByRef parameters back into the caller's values.
 void writeBack(std::span<const Param> params, Binding& binding);

@@ -38,9 +38,9 @@ check find-listed $'13%\nsFound = "from"' \
     "$bin" call --typed vkrFindSubString "Select a, b FROM t" "from|select" "bFindFirst:=False"
 check val-german '1234.5#' "$bin" call --typed --locale de-DE vkrVal "EUR 1.234,50"
 check print-german '1234,5' "$bin" call --locale de-DE vkrVal "EUR 1.234,50"
-check unknown-member 'error 438: Object doesn'"'"'t support this property or method (velkor6)' \
+check unknown-member 'error 438: Object doesn'"'"'t support this property or method (vkrNoSuchThing)' \
     "$bin" call vkrNoSuchThing
-check missing-argument 'error 449: Argument not optional (velkor6)' "$bin" call vkrFindSubString "x"
+check missing-argument 'error 449: Argument not optional (vkrFindSubString)' "$bin" call vkrFindSubString "x"
 check script $'13\nsFound = "from"' \
     "$bin" <<<'vkrFindSubString("Select a, b FROM t", "from|select", bFindFirst:=False)'
 status error-exit 1 "$bin" call vkrNoSuchThing
@@ -62,7 +62,60 @@ status deep-array 2 "$bin" call vkrCVal 12 "$deep"
 check early-date '#0100-01-01#' "$bin" call --typed vkrCVal 7 '#0100-01-01#'
 check script-usage $'1.5\nvelkor6: line 2: overflow: 1E39! is beyond the range of a Single' \
     "$bin" <<<$'vkrCVal(4, 1.5)\nvkrCVal(4, 1E39!)'
-status script-usage-exit 2 "$bin" <<<'vkrCVal(4, 1E39!)'
+status script-usage-exit 1 "$bin" <<<'vkrCVal(4, 1E39!)'
+
+# Errors name the member and the argument that did not fit; a literal that is malformed is a
+# usage error, not a String.
+check argument-error 'error 13: Type mismatch (vkrFindSubString, argument iStartSearch)' \
+    "$bin" call vkrFindSubString abc b x
+check open-string $'velkor6: \'"abc\': the string has no closing "' \
+    "$bin" call vkrFindSubString '"abc' b
+for bad in '#2024-13-45#' 'Array(1, 2' '&HZZ' '1e400' 'sFind:="x'; do
+    status "malformed $bad" 2 "$bin" call vkrFindSubString abc "$bad"
+done
+check applib-needs-app 'velkor6: iniFile is a member of applib: give --app NAME (the application'"'"'s name)' \
+    "$bin" call iniFile
+status applib-needs-app-exit 2 "$bin" call iniFile
+
+# GNU-style options: =value or a separate value, before or after the command, -- ends them, a
+# negative number is an argument.
+check options-anywhere '1234.5#' "$bin" call vkrVal "EUR 1.234,50" --locale=de-DE --typed
+check double-dash '"typed"' "$bin" call --typed vkrMid -- --typed 3
+check negative-number '-2%' "$bin" call --typed vkrCVal 2 -2
+check posix-locale '1.5' "$bin" call --locale C.UTF-8 vkrVal 1.5
+usage_error() { # name, message, arguments...
+    local name=$1 message=$2
+    shift 2
+    check "$name" "velkor6: $message"$'\n'"Try 'velkor6 --help' for more information." "$bin" "$@"
+    status "$name-exit" 2 "$bin" "$@"
+}
+usage_error unknown-option "unknown option '--frob'" call --frob vkrVal 1
+usage_error missing-value "option '--locale' needs a value" call vkrVal 1 --locale
+usage_error unknown-locale '--locale xx-YY: no such locale (de-DE, en-US, or one that locale -a lists)' \
+    --locale xx-YY call vkrVal 1
+usage_error no-value-wanted "option '--typed' takes no value" --typed=yes call vkrVal 1
+usage_error misplaced-option "option '--idl' does not go with 'call'" call --idl vkrVal 1
+usage_error unknown-command "unknown command 'frobnicate' (call, members, deflate, inflate)" frobnicate
+help=$("$bin" --help)
+for word in call members deflate inflate --typed --let --locale --app --app-path --app-version \
+    --markdown --idl --compatible --strict --help --version; do
+    grep -q -- "$word" <<<"$help" || { failed=$((failed + 1)); echo "FAIL --help lacks $word"; }
+done
+status version 0 grep -q '^velkor6 [0-9]' <("$bin" --version)
+
+# Output that cannot be written fails with a message.
+check full-disk 'velkor6: write error: No space left on device' bash -c '"$0" members >/dev/full' "$bin"
+status full-disk-exit 1 bash -c '"$0" members >/dev/full' "$bin"
+# shellcheck disable=SC2016 # the inner shell expands its own arguments
+check closed-pipe $'velkor6: write error: Broken pipe\n1' \
+    bash -c 'trap "" PIPE; (sleep 0.3; "$0" members; echo $? >&2) | true' "$bin"
+
+# Script mode: a byte-order mark, comments, several calls on a line; a failing line is reported
+# with its number, the others run, and the status is 1.
+check bom '1' bash -c 'printf "\xef\xbb\xbfvkrVal(\"1\")\n" | "$0"' "$bin"
+check script-lines $'1\nvelkor6: line 3: syntax error: expected ) at column 10\n2\n3\nerror 13: Type mismatch (vkrCVal, argument VarType)\n4' \
+    "$bin" <<<$'vkrVal("1") \' one\nRem nothing\nvkrVal(1 : vkrVal(2)\nvkrVal("2"): vkrVal 3 Rem x\nvkrCVal("x", 1)\nvkrVal("a:4")'
+status script-fails 1 "$bin" <<<$'vkrVal(1)\nvkrCVal("x", 1)\nvkrVal(2)'
 
 # Without --app-path the application's folder is the current folder, absolute.
 work=$(mktemp -d)

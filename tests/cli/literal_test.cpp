@@ -138,7 +138,7 @@ TEST(CliLiteral, LiteralsOutsideTheirTypeAreUsageErrors) {
     EXPECT_THROW(parseLiteral(nested(maxArrayDepth + 1)), UsageError);
     // Deep enough to overflow the stack of a reader that recursed without a limit.
     EXPECT_THROW(parseCommandArgument(nested(18000)), UsageError);
-    EXPECT_THROW(parseCallLine(u"f(" + nested(18000) + u")"), UsageError);
+    EXPECT_THROW(parseScriptLine(u"f(" + nested(18000) + u")"), UsageError);
 }
 
 TEST(CliLiteral, ValuesNoLiteralWritesStillComeOut) {
@@ -161,31 +161,85 @@ TEST(CliLiteral, ValuesNoLiteralWritesStillComeOut) {
         EXPECT_EQ(toUtf8(typedLiteral(value)), toUtf8(typed));
 }
 
+ParsedCall onlyCall(std::u16string_view line) {
+    auto calls = parseScriptLine(line);
+    EXPECT_EQ(calls.size(), 1u) << toUtf8(line);
+    return calls.empty() ? ParsedCall{} : std::move(calls.front());
+}
+
 TEST(CliLiteral, ReadsCallLines) {
-    ParsedCall call = parseCallLine(
-        u"vkrFindSubString(\"Select a, b FROM t\", \"from|select\", bFindFirst:=False)");
+    ParsedCall call =
+        onlyCall(u"vkrFindSubString(\"Select a, b FROM t\", \"from|select\", bFindFirst:=False)");
     EXPECT_EQ(call.member, u"vkrFindSubString");
     ASSERT_EQ(call.arguments.size(), 3u);
     EXPECT_EQ(call.arguments[1].value, Variant(u"from|select"));
     EXPECT_EQ(call.arguments[2].name, u"bFindFirst");
     EXPECT_FALSE(call.assigned.has_value());
 
-    call = parseCallLine(u"? f(1, , 3)");
+    call = onlyCall(u"? f(1, , 3)");
     ASSERT_EQ(call.arguments.size(), 3u);
     EXPECT_TRUE(call.arguments[1].value.isMissing());
 
-    call = parseCallLine(u"vkrMid(\"abcdef\", 2, 2) = \"XYZ\"");
+    call = onlyCall(u"vkrMid(\"abcdef\", 2, 2) = \"XYZ\"");
     ASSERT_TRUE(call.assigned.has_value());
     EXPECT_EQ(*call.assigned, Variant(u"XYZ"));
 
-    call = parseCallLine(u"f");
+    call = onlyCall(u"f");
     EXPECT_TRUE(call.arguments.empty());
-    call = parseCallLine(u"Print g 1, \"x\"");
+    call = onlyCall(u"Print g 1, \"x\"");
     EXPECT_EQ(call.member, u"g");
     EXPECT_EQ(call.arguments.size(), 2u);
 
-    for (auto bad : {u"f(1", u"f(bare words)", u"(1)", u"f(1) trailing"})
-        EXPECT_THROW(parseCallLine(bad), UsageError) << toUtf8(bad);
+    for (auto bad :
+         {u"f(1", u"f(bare words)", u"(1)", u"f(1) trailing", u"f(1) : (2)", u"f(\"a:b) ' c"})
+        EXPECT_THROW(parseScriptLine(bad), UsageError) << toUtf8(bad);
+}
+
+TEST(CliLiteral, ScriptLinesHoldSeveralCallsAndComments) {
+    // ":" separates calls, but not inside a string, a date or name:=value.
+    auto calls =
+        parseScriptLine(u"f(\"a:b ' c\", #2024-03-15 13:45:00#) : g x:=1: h 2, 3 ' f(\"comment\")");
+    ASSERT_EQ(calls.size(), 3u);
+    EXPECT_EQ(calls[0].arguments[0].value, Variant(u"a:b ' c"));
+    EXPECT_EQ(calls[1].member, u"g");
+    EXPECT_EQ(calls[1].arguments[0].name, u"x");
+    EXPECT_EQ(calls[2].arguments.size(), 2u);
+
+    EXPECT_EQ(parseScriptLine(u"f(1) Rem g(2)").size(), 1u);
+    EXPECT_EQ(parseScriptLine(u"f Rem").size(), 1u);
+    EXPECT_EQ(parseScriptLine(u"Remove(1)").front().member, u"Remove");
+    EXPECT_TRUE(parseScriptLine(u"rem all of it").empty());
+    EXPECT_TRUE(parseScriptLine(u"  ' all of it").empty());
+    EXPECT_EQ(parseScriptLine(u"\uFEFFf(1)").front().member, u"f");
+    EXPECT_EQ(parseScriptLine(u": f : : g :").size(), 2u);
+}
+
+TEST(CliLiteral, ArgumentsThatStartLikeLiteralsMustBeOne) {
+    const std::pair<std::u16string_view, std::string_view> cases[] = {
+        {u"\"abc", "no closing"},
+        {u"\"a\" & 1", "unexpected text after a string at column 5"},
+        {u"#2024-13-45#", "no date"},
+        {u"#2024-02-30#", "no date"},
+        {u"&HZZ", "no hexadecimal number"},
+        {u"&H123456789", "no hexadecimal number"},
+        {u"&O9", "no octal number"},
+        {u"Array(1, 2", "unbalanced parentheses"},
+        {u"array(\"x)", "no closing"},
+        {u"Chr(1))", "unbalanced parentheses"},
+        {u"Array(1 2)", "no literal"},
+        {u"sName:=\"open", "no closing"},
+    };
+    for (const auto& [text, message] : cases) {
+        try {
+            parseCommandArgument(text);
+            ADD_FAILURE() << toUtf8(text) << " was read";
+        } catch (const UsageError& e) {
+            EXPECT_NE(std::string_view(e.what()).find(message), std::string_view::npos)
+                << toUtf8(text) << ": " << e.what();
+        }
+    }
+    for (auto text : {u"12abc", u"#1 item", u"a \"quoted\" word", u"Arrays", u"&", u"1.234,5"})
+        EXPECT_EQ(parseCommandArgument(text).value, Variant(text)) << toUtf8(text);
 }
 
 TEST(CliLiteral, TypedNumbersAreShortestRoundTrip) {

@@ -15,7 +15,8 @@ struct Recorder {
 Table<Recorder> table() {
     using T = VarType;
     Table<Recorder> t;
-    t.push_back({1, u"Join",
+    t.push_back({1,
+                 u"Join",
                  CallKind::Method,
                  {required(u"sText", T::String), optional(u"iCount", T::Integer, std::int16_t{2}),
                   optionalByRef(u"sOut", T::String, u"")},
@@ -30,14 +31,16 @@ Table<Recorder> table() {
                  },
                  u"Repeats a text.",
                  u""});
-    t.push_back({2, u"Value",
+    t.push_back({2,
+                 u"Value",
                  CallKind::PropertyGet,
                  {required(u"iIndex", T::Long)},
                  T::Long,
                  [](Recorder&, Args& a) -> Variant { return a.i32(0) * 2; },
                  u"",
                  u""});
-    t.push_back({2, u"Value",
+    t.push_back({2,
+                 u"Value",
                  CallKind::PropertyLet,
                  {required(u"iIndex", T::Long), required(u"vNew", T::Variant)},
                  T::Empty,
@@ -47,7 +50,8 @@ Table<Recorder> table() {
                  },
                  u"",
                  u""});
-    t.push_back({3, u"Sum",
+    t.push_back({3,
+                 u"Sum",
                  CallKind::Method,
                  {byRef(u"vList", T::Array | T::Double)},
                  T::Double,
@@ -122,6 +126,20 @@ TEST(Dispatch, RaisesVbErrorsForBadCalls) {
               }),
               vberr::wrongArgumentCount);
     EXPECT_EQ(errorOf([&] { call(t, r, u"Sum", {{&text, u""}}); }), vberr::typeMismatch);
+
+    // A conversion error tells which parameter it was, named or positional; the error itself
+    // is the plain one.
+    for (auto args : {std::vector<Argument>{{&text, u""}, {&word, u""}},
+                      std::vector<Argument>{{&big, u"iCount"}, {&text, u"sText"}}}) {
+        try {
+            call(t, r, u"Join", args);
+            ADD_FAILURE() << "no error";
+        } catch (const ArgumentError& e) {
+            EXPECT_EQ(e.param(), 1u);
+            EXPECT_EQ(e.source(), u"velkor6");
+            EXPECT_EQ(e.description(), VbError::describe(e.number()));
+        }
+    }
 }
 
 TEST(Dispatch, PropertiesAndArrays) {
@@ -130,7 +148,8 @@ TEST(Dispatch, PropertiesAndArrays) {
     Variant index(std::int16_t{21}), value(u"v");
     // A method call reaches a property get, as late-bound clients send both flags.
     EXPECT_EQ(call(t, r, u"value", {{&index, u""}}), Variant(42));
-    EXPECT_EQ(call(t, r, u"Value", {{&index, u""}, {&value, u""}}, CallKind::PropertyLet), Variant());
+    EXPECT_EQ(call(t, r, u"Value", {{&index, u""}, {&value, u""}}, CallKind::PropertyLet),
+              Variant());
     EXPECT_EQ(r.seen[0], Variant(21));
     EXPECT_EQ(r.seen[1], Variant(u"v"));
 

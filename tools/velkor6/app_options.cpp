@@ -1,8 +1,11 @@
 #include "app_options.h"
 
 #include "literal.h"
+#include "system_locale.h"
 
+#include <algorithm>
 #include <array>
+#include <cctype>
 #include <charconv>
 #include <cstdint>
 #include <filesystem>
@@ -33,6 +36,26 @@ void readAppVersion(std::string_view text, HostApp& host) {
     host.major = parts[0];
     host.minor = parts[1];
     host.revision = parts[2];
+}
+
+bool isLocalePreset(std::string_view name) {
+    auto same = [&](std::string_view preset) {
+        return std::equal(name.begin(), name.end(), preset.begin(), preset.end(),
+                          [](char a, char b) {
+                              return std::tolower(static_cast<unsigned char>(a)) ==
+                                     std::tolower(static_cast<unsigned char>(b));
+                          });
+    };
+    return same("de-DE") || same("en-US");
+}
+
+void checkLocale(std::string_view name) {
+    if (isLocalePreset(name))
+        return;
+    const std::string text(name);
+    if (!localeInstalled(text))
+        throw UsageError("--locale " + text +
+                         ": no such locale (de-DE, en-US, or one that locale -a lists)");
 }
 
 Options resolveAppOptions(Options options) {

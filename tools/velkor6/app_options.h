@@ -13,6 +13,11 @@ namespace velkor6::cli {
 // part.
 void readAppVersion(std::string_view text, HostApp& host);
 
+// True for the names of the fixed locales (de-DE, en-US), in any case.
+bool isLocalePreset(std::string_view name);
+// Raises UsageError unless the name is a preset or a locale the C library has installed.
+void checkLocale(std::string_view name);
+
 // The options as a session uses them: the version checked, and without --app-path the
 // current folder as an absolute path. Raises UsageError.
 Options resolveAppOptions(Options options);

@@ -10,6 +10,7 @@
 #include "velkor6/record_object.h"
 #include "velkor6/vb_error.h"
 
+#include <algorithm>
 #include <iostream>
 #include <memory>
 
@@ -20,9 +21,11 @@ std::ostream& operator<<(std::ostream& os, std::u16string_view s) {
     return os << toUtf8(s);
 }
 
+// A POSIX locale name reached the module through the environment (main sets LC_ALL); the
+// presets are set here.
 std::shared_ptr<Module> makeModule(const Options& options) {
     auto module = Module::createDefault();
-    if (!options.locale.empty())
+    if (isLocalePreset(options.locale))
         module->setLocale(Locale::preset(fromUtf8(options.locale)));
     return module;
 }
@@ -68,18 +71,32 @@ void printError(const VbError& e, std::ostream& err) {
     err << "error " << e.number() << ": " << e.description() << " (" << e.source() << ")\n";
 }
 
-// Calls one member with parsed arguments; prints the result, then every output parameter (a
-// ByRef parameter the member writes), changed or not.
+// The member that raised an error and, for a value that did not fit, the argument; a source of
+// the library's own that names a member stays as it is.
 template <class Target>
-void callAndPrint(const dispatch::Table<Target>& table, Target& target, const Options& options,
-                  const std::u16string& name, std::vector<ParsedArgument>& parsed,
-                  std::optional<Variant> assigned, std::ostream& out) {
-    const CallKind kind = assigned ? CallKind::PropertyLet : CallKind::Method;
-    const auto* member = dispatch::find(table, name, kind);
-    if (member == nullptr)
-        dispatch::throwNoSuchMember(name);
+void printCallError(const VbError& e, const dispatch::Member<Target>* member,
+                    std::u16string_view name, std::ostream& err) {
+    std::u16string context(member ? std::u16string_view(member->name) : name);
+    if (const auto* a = dynamic_cast<const dispatch::ArgumentError*>(&e); a && member)
+        context += u", argument " + member->params[a->param()].name;
+    if (!e.source().empty() && e.source() != u"velkor6") {
+        if (dispatch::sameName(e.source(), u"velkor6." + context))
+            context = e.source();
+        else
+            context += u": " + e.source();
+    }
+    err << "error " << e.number() << ": " << e.description() << " (" << context << ")\n";
+}
+
+// Calls one member with parsed arguments; prints the result, then every output parameter (a
+// ByRef parameter the member writes), changed or not. False when the member raised an error,
+// which it prints.
+template <class Target>
+bool callAndPrint(const dispatch::Member<Target>& member, Target& target, const Options& options,
+                  std::vector<ParsedArgument>& parsed, std::optional<Variant> assigned,
+                  std::ostream& out, std::ostream& err) {
     if (assigned)
-        parsed.push_back({member->params.back().name, std::move(*assigned)});
+        parsed.push_back({member.params.back().name, std::move(*assigned)});
 
     std::vector<dispatch::Argument> args;
     args.reserve(parsed.size());
@@ -87,16 +104,24 @@ void callAndPrint(const dispatch::Table<Target>& table, Target& target, const Op
         args.push_back({&p.value, p.name});
     const Locale& loc = target.locale();
     std::vector<Variant> outputs;
-    const Variant result =
-        dispatch::call(*member, target, args, loc,
-                       [&](const dispatch::Binding& binding) { outputs = binding.values; });
-
-    if (member->result != VarType::Empty)
-        out << (options.typed ? typedLiteral(result) : printText(result, loc)) << '\n';
-    for (std::size_t i = 0; i < member->params.size(); ++i) {
-        if (member->params[i].output)
-            printNamed(member->params[i].name, outputs[i], out);
+    Variant result;
+    try {
+        result = dispatch::call(member, target, args, loc, [&](const dispatch::Binding& binding) {
+            outputs = binding.values;
+        });
+    } catch (const VbError& e) {
+        out << std::flush;
+        printCallError(e, &member, member.name, err);
+        return false;
     }
+
+    if (member.result != VarType::Empty)
+        out << (options.typed ? typedLiteral(result) : printText(result, loc)) << '\n';
+    for (std::size_t i = 0; i < member.params.size(); ++i) {
+        if (member.params[i].output)
+            printNamed(member.params[i].name, outputs[i], out);
+    }
+    return true;
 }
 
 std::u16string defaultText(const Variant& v) {
@@ -156,15 +181,23 @@ public:
         }
     }
 
-    void call(const Options& options, const std::u16string& name,
+    // Calls a member of the application's applib (with --app) or of lib. Raises UsageError
+    // for an applib member without --app.
+    bool call(const Options& options, const std::u16string& name,
               std::vector<ParsedArgument>& parsed, std::optional<Variant> assigned,
-              std::ostream& out) {
-        if (app_)
-            callAndPrint(dispatch::applibMembers(), *app_, options, name, parsed,
-                         std::move(assigned), out);
-        else
-            callAndPrint(dispatch::libMembers(), lib_, options, name, parsed, std::move(assigned),
-                         out);
+              std::ostream& out, std::ostream& err) {
+        const CallKind kind = assigned ? CallKind::PropertyLet : CallKind::Method;
+        if (app_) {
+            if (const auto* m = dispatch::find(dispatch::applibMembers(), name, kind))
+                return callAndPrint(*m, *app_, options, parsed, std::move(assigned), out, err);
+        }
+        if (const auto* m = dispatch::find(dispatch::libMembers(), name, kind))
+            return callAndPrint(*m, lib_, options, parsed, std::move(assigned), out, err);
+        if (dispatch::find(dispatch::applibMembers(), name, kind) != nullptr)
+            throw UsageError(toUtf8(name) +
+                             " is a member of applib: give --app NAME (the application's name)");
+        printCallError<lib>(VbError(vberr::noSuchMember), nullptr, name, err);
+        return false;
     }
 
 private:
@@ -185,7 +218,7 @@ void printUsageError(const UsageError& e, std::ostream& err) {
 int runCall(const Options& givenOptions, const std::vector<std::string>& words, std::ostream& out,
             std::ostream& err) {
     if (words.empty()) {
-        err << "usage: velkor6 call [--typed] [--let] [--locale de-DE|en-US] MEMBER [ARG ...]\n";
+        err << "velkor6: call: no member named (velkor6 call MEMBER [ARG ...])\n";
         return 2;
     }
     Options options;
@@ -195,30 +228,89 @@ int runCall(const Options& givenOptions, const std::vector<std::string>& words, 
         options = resolveAppOptions(givenOptions);
         for (std::size_t i = 1; i < words.size(); ++i)
             parsed.push_back(parseCommandArgument(fromUtf8(words[i])));
+        if (options.let) {
+            if (parsed.empty())
+                throw UsageError("call --let: the last argument is the value to assign");
+            assigned = std::move(parsed.back().value);
+            parsed.pop_back();
+        }
+        Session session(options);
+        return session.call(options, fromUtf8(words[0]), parsed, std::move(assigned), out, err) ? 0
+                                                                                                : 1;
     } catch (const UsageError& e) {
         printUsageError(e, err);
         return 2;
-    }
-    if (options.let) {
-        if (parsed.empty()) {
-            err << "velkor6 call --let: the last argument is the value to assign\n";
-            return 2;
-        }
-        assigned = std::move(parsed.back().value);
-        parsed.pop_back();
-    }
-    try {
-        Session session(options);
-        session.call(options, fromUtf8(words[0]), parsed, std::move(assigned), out);
     } catch (const VbError& e) {
         printError(e, err);
         return 1;
     }
-    return 0;
 }
 
-int runScript(const Options& givenOptions, std::istream& in, std::ostream& out, std::ostream& err,
-              bool interactive) {
+LineSource streamLines(std::istream& in) {
+    return [&in]() -> std::optional<std::string> {
+        std::string line;
+        if (!std::getline(in, line))
+            return std::nullopt;
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        return line;
+    };
+}
+
+namespace {
+
+template <class Target>
+const dispatch::Member<Target>* findAny(const dispatch::Table<Target>& table,
+                                        std::u16string_view name) {
+    const auto* m = dispatch::find(table, name, CallKind::Method);
+    return m ? m : dispatch::find(table, name, CallKind::PropertyLet);
+}
+
+template <class Target>
+void printReference(const dispatch::Member<Target>& m, std::u16string_view prefix,
+                    std::ostream& out) {
+    out << kindLabel(m) << ' ' << prefix << signature(m) << '\n';
+    if (!m.summary.empty())
+        out << '\n' << m.summary << '\n';
+    if (!m.notes.empty())
+        out << '\n' << m.notes << '\n';
+}
+
+// "help" lists what a line may hold; "help MEMBER" prints the member's reference entry.
+bool printHelp(std::u16string_view name, std::ostream& out, std::ostream& err) {
+    if (name.empty()) {
+        out << "A line holds calls in VB syntax, separated by \":\": vkrVal(\"1,5\") or vkrVal "
+               "\"1,5\";\n"
+               "with \"= value\" after it a property assignment; ' or Rem starts a comment.\n"
+               "help MEMBER   the member's signature and description\n"
+               "quit, exit    end (so does Ctrl-D)\n"
+               "Tab completes member names; velkor6 members lists them all.\n";
+        return true;
+    }
+    bool found = false;
+    if (const auto* m = findAny(dispatch::libMembers(), name)) {
+        printReference(*m, u"", out);
+        found = true;
+    }
+    if (const auto* m = findAny(dispatch::applibMembers(), name)) {
+        if (found)
+            out << '\n';
+        printReference(*m, u"applib.", out);
+        found = true;
+    }
+    if (!found)
+        err << "velkor6: help: no member named " << name << '\n';
+    return found;
+}
+
+bool isWord(std::u16string_view line, std::u16string_view word) {
+    return textEqual(line, word, Compare::Text);
+}
+
+} // namespace
+
+int runScript(const Options& givenOptions, const LineSource& lines, std::ostream& out,
+              std::ostream& err) {
     Options options;
     std::unique_ptr<Session> session;
     try {
@@ -231,39 +323,37 @@ int runScript(const Options& givenOptions, std::istream& in, std::ostream& out, 
         printError(e, err);
         return 1;
     }
-    std::string line;
     std::size_t lineNumber = 0;
-    bool unreadLines = false;
-    while (true) {
-        if (interactive)
-            out << "velkor6> " << std::flush;
-        if (!std::getline(in, line))
-            break;
+    bool failed = false;
+    while (const auto line = lines()) {
         ++lineNumber;
-        if (!line.empty() && line.back() == '\r')
-            line.pop_back();
-        const std::u16string text = fromUtf8(line);
+        std::u16string text = fromUtf8(*line);
+        if (lineNumber == 1 && text.starts_with(u'\uFEFF'))
+            text.erase(0, 1);
         const std::u16string_view trimmed = trimSpaces(text);
-        if (trimmed.empty() || trimmed.front() == u'\'')
+        if (isWord(trimmed, u"quit") || isWord(trimmed, u"exit"))
+            break;
+        if (isWord(trimmed, u"help") ||
+            (trimmed.size() > 5 && isWord(trimmed.substr(0, 5), u"help "))) {
+            failed |= !printHelp(trimSpaces(trimmed.substr(4)), out, err);
             continue;
+        }
         try {
-            ParsedCall call = parseCallLine(trimmed);
-            session->call(options, call.member, call.arguments, std::move(call.assigned), out);
-        } catch (const VbError& e) {
-            out << std::flush;
-            printError(e, err);
+            for (ParsedCall& call : parseScriptLine(trimmed)) {
+                if (!session->call(options, call.member, call.arguments, std::move(call.assigned),
+                                   out, err))
+                    failed = true;
+            }
         } catch (const UsageError& e) {
             out << std::flush;
             err << "velkor6: line " << lineNumber << ": " << e.what() << '\n';
-            unreadLines = true;
+            failed = true;
         }
-        out << std::flush;
+        // A reader that has gone (a closed pipe, a full disk) ends the script.
+        if (!out.flush())
+            return 1;
     }
-    if (interactive)
-        out << '\n';
-    // A raised error is one of the results a script shows, not a failure of the program; a
-    // line that could not be read is.
-    return unreadLines ? 2 : 0;
+    return failed ? 1 : 0;
 }
 
 namespace {
@@ -288,6 +378,20 @@ void listMembers(const dispatch::Table<Target>& table, std::u16string_view prefi
 }
 
 } // namespace
+
+std::vector<std::string> completionWords() {
+    std::vector<std::string> words = {"help", "quit", "exit"};
+    auto add = [&](const auto& table) {
+        for (const auto& m : table) {
+            std::string name = toUtf8(m.name);
+            if (std::find(words.begin(), words.end(), name) == words.end())
+                words.push_back(std::move(name));
+        }
+    };
+    add(dispatch::libMembers());
+    add(dispatch::applibMembers());
+    return words;
+}
 
 int runMembers(bool markdown, std::ostream& out) {
     if (markdown)

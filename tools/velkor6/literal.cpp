@@ -23,10 +23,6 @@ bool isIdentChar(char16_t c) {
     return isLetter(c) || isDigit(c) || c == u'_';
 }
 
-[[noreturn]] void syntaxError(const std::u16string& what) {
-    throw UsageError("syntax error: " + toUtf8(what));
-}
-
 [[noreturn]] void outOfRange(std::u16string_view literal, std::string_view type) {
     throw UsageError("overflow: " + toUtf8(literal) + " is beyond the range of " +
                      std::string(type));
@@ -463,6 +459,121 @@ std::u16string argumentName(Reader& r) {
     return {};
 }
 
+bool startsWithWord(std::u16string_view text, std::u16string_view word) {
+    return text.size() >= word.size() &&
+           textEqual(text.substr(0, word.size()), word, Compare::Text);
+}
+
+// A comment runs from ' or the word Rem to the end of the line.
+bool atComment(Reader& r, std::u16string_view line) {
+    if (r.atEnd())
+        return false;
+    const std::u16string_view rest = line.substr(r.pos());
+    return rest.front() == u'\'' || (startsWithWord(rest, u"Rem") &&
+                                     (rest.size() == 3 || rest[3] == u' ' || rest[3] == u'\t'));
+}
+
+bool atStatementEnd(Reader& r, std::u16string_view line) {
+    return r.atEnd() || r.peek() == u':' || atComment(r, line);
+}
+
+std::string column(const Reader& r) {
+    return std::to_string(r.pos() + 1);
+}
+
+// One call up to the end of its statement: member(arg, , name:=value), member arg, arg, either
+// with "= value" after it for a property assignment.
+ParsedCall readCall(Reader& r, std::u16string_view line) {
+    ParsedCall call;
+    std::u16string word = r.identifier();
+    if (textEqual(word, u"Print", Compare::Text))
+        word = r.identifier();
+    else if (word.empty() && r.accept(u'?'))
+        word = r.identifier();
+    if (word.empty())
+        throw UsageError("syntax error: expected a member name at column " + column(r));
+    call.member = word;
+
+    auto argumentList = [&](char16_t close) {
+        while (true) {
+            r.skipSpaces();
+            if (r.peek() == u',' || (close != 0 && r.peek() == close) ||
+                (close == 0 && atStatementEnd(r, line))) {
+                call.arguments.push_back({u"", Variant::missing()});
+            } else {
+                ParsedArgument arg;
+                arg.name = argumentName(r);
+                auto v = r.expression();
+                if (!v)
+                    throw UsageError("syntax error: expected a literal at column " + column(r));
+                arg.value = std::move(*v);
+                call.arguments.push_back(std::move(arg));
+            }
+            if (!r.accept(u','))
+                break;
+        }
+        // "f()" and "f" have no arguments rather than one omitted one.
+        if (call.arguments.size() == 1 && call.arguments[0].name.empty() &&
+            call.arguments[0].value.isMissing())
+            call.arguments.clear();
+    };
+
+    if (r.accept(u'(')) {
+        argumentList(u')');
+        if (!r.accept(u')'))
+            throw UsageError("syntax error: expected ) at column " + column(r));
+    } else if (!atStatementEnd(r, line) && r.peek() != u'=') {
+        argumentList(0);
+    }
+    if (r.accept(u'=')) {
+        auto v = r.expression();
+        if (!v)
+            throw UsageError("syntax error: expected a value after = at column " + column(r));
+        call.assigned = std::move(*v);
+    }
+    if (!atStatementEnd(r, line))
+        throw UsageError("syntax error: unexpected text at column " + column(r));
+    return call;
+}
+
+// Why a text that starts like a literal is none, or nullopt when it does not start like one.
+std::optional<std::string> literalProblem(std::u16string_view text) {
+    const std::u16string_view t = trimSpaces(text);
+    if (t.empty())
+        return std::nullopt;
+    const std::string quoted = "'" + toUtf8(t) + "'";
+    Reader r(t);
+    if (t.front() == u'"') {
+        if (!r.term())
+            return quoted + ": the string has no closing \"";
+        r.skipSpaces();
+        return quoted + ": unexpected text after a string at column " + column(r);
+    }
+    if (t.size() > 1 && t.front() == u'#' && t.back() == u'#')
+        return quoted + ": no date #yyyy-mm-dd[ hh:nn[:ss]]# (month 1 to 12, a day of that month)";
+    if (startsWithWord(t, u"&H") || startsWithWord(t, u"&O"))
+        return quoted + (toUpper(t[1]) == u'H' ? ": no hexadecimal" : ": no octal") +
+               " number of up to 32 bits";
+    if (startsWithWord(t, u"Array(") || startsWithWord(t, u"Chr(") || startsWithWord(t, u"ChrW(")) {
+        int depth = 0;
+        bool inString = false;
+        for (char16_t c : t) {
+            if (c == u'"')
+                inString = !inString;
+            else if (!inString && c == u'(')
+                ++depth;
+            else if (!inString && c == u')')
+                --depth;
+        }
+        if (inString)
+            return quoted + ": a string in it has no closing \"";
+        if (depth != 0)
+            return quoted + ": unbalanced parentheses";
+        return quoted + ": no literal (Array(literal, ...), Chr(number))";
+    }
+    return std::nullopt;
+}
+
 // The shortest digits that read back to the same value, laid out as VB shows a literal: plain
 // notation for exponents from -5 to 14, E notation beyond.
 // Infinities and NaNs, which no literal writes, come out as VB shows them.
@@ -561,63 +672,29 @@ ParsedArgument parseCommandArgument(std::u16string_view text) {
     const std::u16string_view rest = text.substr(r.pos());
     if (auto v = parseLiteral(rest))
         arg.value = std::move(*v);
+    else if (auto problem = literalProblem(rest))
+        throw UsageError(*problem);
     else
         arg.value = Variant(rest);
     return arg;
 }
 
-ParsedCall parseCallLine(std::u16string_view line) {
+std::vector<ParsedCall> parseScriptLine(std::u16string_view line) {
+    if (line.starts_with(u"\uFEFF"))
+        line.remove_prefix(1);
     Reader r(line);
-    ParsedCall call;
-    std::u16string word = r.identifier();
-    if (textEqual(word, u"Print", Compare::Text))
-        word = r.identifier();
-    else if (word.empty() && r.accept(u'?'))
-        word = r.identifier();
-    if (word.empty())
-        syntaxError(u"expected a member name");
-    call.member = word;
-
-    auto argumentList = [&](char16_t close) {
-        while (true) {
-            r.skipSpaces();
-            if (r.peek() == u',' || r.peek() == close || (close == 0 && r.atEnd())) {
-                call.arguments.push_back({u"", Variant::missing()});
-            } else {
-                ParsedArgument arg;
-                arg.name = argumentName(r);
-                auto v = r.expression();
-                if (!v)
-                    syntaxError(u"expected a literal at column " +
-                                fromUtf8(std::to_string(r.pos() + 1)));
-                arg.value = std::move(*v);
-                call.arguments.push_back(std::move(arg));
-            }
-            if (!r.accept(u','))
-                break;
-        }
-        // "f()" and "f" have no arguments rather than one omitted one.
-        if (call.arguments.size() == 1 && call.arguments[0].name.empty() &&
-            call.arguments[0].value.isMissing())
-            call.arguments.clear();
-    };
-
-    if (r.accept(u'(')) {
-        argumentList(u')');
-        if (!r.accept(u')'))
-            syntaxError(u"expected )");
-    } else if (!r.atEnd() && r.peek() != u'=') {
-        argumentList(0);
+    std::vector<ParsedCall> calls;
+    while (true) {
+        if (r.atEnd() || atComment(r, line))
+            break;
+        if (!r.accept(u':'))
+            calls.push_back(readCall(r, line));
+        else
+            continue;
+        if (!r.accept(u':'))
+            break;
     }
-    if (r.accept(u'=')) {
-        auto v = r.expression();
-        if (!v)
-            syntaxError(u"expected a value after =");
-        call.assigned = std::move(*v);
-    }
-    if (!r.atEnd())
-        syntaxError(u"unexpected text at column " + fromUtf8(std::to_string(r.pos() + 1)));
-    return call;
+    return calls;
 }
 
 std::u16string typedLiteral(const Variant& v) {

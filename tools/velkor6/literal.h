@@ -34,17 +34,21 @@ struct ParsedArgument {
 inline constexpr int maxArrayDepth = 100;
 std::optional<Variant> parseLiteral(std::u16string_view text);
 
-// One command-line argument: "name:=literal" or a literal; any other text is a String as written.
+// One command-line argument: "name:=literal" or a literal; any other text is a String as
+// written. A text that starts like a literal but is none (an unterminated "..., #2024-13-45#,
+// &HZZ, an unbalanced Array(...) raises UsageError naming the problem.
 ParsedArgument parseCommandArgument(std::u16string_view text);
 
-// A call in VB syntax: member(arg, , name:=value) or member arg, arg; with "= value" after it,
-// a property assignment. Raises UsageError for a line that does not parse.
+// One line of a script: calls in VB syntax separated by ":", each member(arg, , name:=value) or
+// member arg, arg, with "= value" after it for a property assignment; a comment (' or Rem)
+// ends the line, and a byte-order mark may start it. Raises UsageError for a line that does
+// not parse; then none of its calls run.
 struct ParsedCall {
     std::u16string member;
     std::vector<ParsedArgument> arguments;
     std::optional<Variant> assigned;
 };
-ParsedCall parseCallLine(std::u16string_view line);
+std::vector<ParsedCall> parseScriptLine(std::u16string_view line);
 
 // The typed literal of a value: 1% 2& 1.5! 1.5# 12.5@ True Empty Null Nothing #2024-03-15#
 // (years always with four digits: #0100-01-01#), "text" with Chr(N) for control characters,

@@ -1,8 +1,17 @@
 // velkor6: calls the library's members by name from the command line.
+#include "build_info.h"
+#include "command_line.h"
 #include "commands.h"
 #include "lib/idl.h"
+#include "literal.h"
 #include "lzw_command.h"
+#include "prompt.h"
+#include "system_locale.h"
 
+#include <cerrno>
+#include <clocale>
+#include <cstdio>
+#include <cstring>
 #include <iostream>
 #include <string>
 #include <unistd.h>
@@ -10,77 +19,81 @@
 
 namespace {
 
-constexpr const char* usage =
-    "usage: velkor6 [--typed] [--locale de-DE|en-US]          calls in VB syntax from stdin\n"
-    "       velkor6 call [--typed] [--let] [--locale NAME] MEMBER [ARG ...]\n"
-    "       velkor6 --app NAME [--app-path DIR] [--app-version 6.1.23] call MEMBER [ARG ...]\n"
-    "       velkor6 members [--markdown | --idl]\n"
-    "       velkor6 deflate < text > packed\n"
-    "       velkor6 inflate [--compatible] < packed > text\n"
-    "         gives back exactly the text deflate packed; --compatible decodes as the\n"
-    "         \"Inflate\" member does, which alters texts long enough to fill its dictionary\n";
+using namespace velkor6::cli;
+
+void printVersion() {
+    std::cout << "velkor6 " << libraryVersion << '\n'
+              << "build: " << buildType << ", " << __DATE__ << '\n'
+              << "platform: " << buildPlatform << ", " << compiler << '\n';
+}
+
+int runPrompt(const Options& options) {
+    // libedit reads multibyte characters by the C library's character type.
+    std::setlocale(LC_CTYPE, "");
+    Prompt prompt(completionWords(), historyFile());
+    std::cout << "velkor6 " << libraryVersion
+              << ": calls in VB syntax; help, help MEMBER, quit. Tab completes names.\n";
+    return runScript(
+        options, [&prompt] { return prompt.readLine(); }, std::cout, std::cerr);
+}
+
+int run(const CommandLine& line) {
+    if (line.help) {
+        std::cout << helpText;
+        return 0;
+    }
+    if (line.version) {
+        printVersion();
+        return 0;
+    }
+    if (!line.options.locale.empty() && localeInstalled(line.options.locale))
+        useSystemLocale(line.options.locale);
+    if (line.command.empty()) {
+        if (isatty(0) != 0)
+            return runPrompt(line.options);
+        return runScript(line.options, streamLines(std::cin), std::cout, std::cerr);
+    }
+    if (line.command == "call")
+        return runCall(line.options, line.words, std::cout, std::cerr);
+    if (line.command == "members") {
+        if (line.idl) {
+            velkor6::typelib::writeIdl(std::cout);
+            return 0;
+        }
+        return runMembers(line.markdown, std::cout);
+    }
+    if (line.command == "deflate")
+        return runDeflate(std::cin, std::cout);
+    return runInflate(std::cin, std::cout, !line.compatible);
+}
+
+// Output that did not reach its file (a full disk, a reader that has gone) is a failure, as in
+// any GNU program.
+int checkOutput(int status) {
+    std::cout.flush();
+    if (std::cout && std::ferror(stdout) == 0 && std::fflush(stdout) == 0)
+        return status;
+    // Once a write failed, the stream keeps only that it failed; one more write of what is
+    // still buffered, or of nothing, tells why.
+    std::clearerr(stdout);
+    errno = 0;
+    if (std::fputc('\n', stdout) != EOF)
+        std::fflush(stdout);
+    const int error = errno;
+    std::cerr << "velkor6: write error" << (error != 0 ? ": " : "")
+              << (error != 0 ? std::strerror(error) : "") << '\n';
+    return 1;
+}
 
 } // namespace
 
 int main(int argc, char** argv) {
-    std::vector<std::string> words(argv + 1, argv + argc);
-    velkor6::cli::Options options;
-    std::string command;
-    std::vector<std::string> rest;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        const std::string& w = words[i];
-        const bool optionsAllowed = rest.empty();
-        if (optionsAllowed && w == "--typed") {
-            options.typed = true;
-        } else if (optionsAllowed && w == "--let") {
-            options.let = true;
-        } else if (optionsAllowed && w == "--locale") {
-            if (i + 1 == words.size()) {
-                std::cerr << usage;
-                return 2;
-            }
-            options.locale = words[++i];
-        } else if (optionsAllowed && (w == "--app" || w == "--app-path" || w == "--app-version")) {
-            if (i + 1 == words.size()) {
-                std::cerr << usage;
-                return 2;
-            }
-            std::string& target = w == "--app"        ? options.appName
-                                  : w == "--app-path" ? options.appPath
-                                                      : options.appVersion;
-            target = words[++i];
-        } else if (optionsAllowed && (w == "--help" || w == "-h")) {
-            std::cout << usage;
-            return 0;
-        } else if (command.empty()) {
-            command = w;
-        } else {
-            rest.push_back(w);
-        }
+    CommandLine line;
+    try {
+        line = parseCommandLine(std::vector<std::string>(argv + 1, argv + argc));
+    } catch (const UsageError& e) {
+        std::cerr << "velkor6: " << e.what() << "\nTry 'velkor6 --help' for more information.\n";
+        return 2;
     }
-
-    if (command.empty())
-        return velkor6::cli::runScript(options, std::cin, std::cout, std::cerr, isatty(0) != 0);
-    if (command == "call")
-        return velkor6::cli::runCall(options, rest, std::cout, std::cerr);
-    if (command == "members") {
-        if (rest.size() == 1 && rest[0] == "--idl") {
-            velkor6::typelib::writeIdl(std::cout);
-            return 0;
-        }
-        const bool markdown = rest.size() == 1 && rest[0] == "--markdown";
-        if (!rest.empty() && !markdown) {
-            std::cerr << usage;
-            return 2;
-        }
-        return velkor6::cli::runMembers(markdown, std::cout);
-    }
-    if (command == "deflate" && rest.empty())
-        return velkor6::cli::runDeflate(std::cin, std::cout);
-    // --strict names the default, which it was before the default changed.
-    if (command == "inflate" && (rest.empty() || (rest.size() == 1 && (rest[0] == "--strict" ||
-                                                                       rest[0] == "--compatible"))))
-        return velkor6::cli::runInflate(std::cin, std::cout, rest.empty() || rest[0] == "--strict");
-    std::cerr << "velkor6: unknown command '" << command << "'\n" << usage;
-    return 2;
+    return checkOutput(run(line));
 }
