@@ -1,6 +1,7 @@
 #include "command_line.h"
 #include "completion.h"
 #include "literal.h"
+#include "system_locale.h"
 
 #include <gtest/gtest.h>
 
@@ -37,6 +38,7 @@ TEST(CliCommandLine, UnusableCommandLinesNameTheProblem) {
         {{"--frob"}, "unknown option '--frob'"},
         {{"-x"}, "unknown option '-x'"},
         {{"--app"}, "option '--app' needs a value"},
+        {{"--app-p"}, "option '--app-path' needs a value"},
         {{"call", "f", "--locale"}, "option '--locale' needs a value"},
         {{"--typed=1"}, "option '--typed' takes no value"},
         {{"--app-"}, "ambiguous option '--app-'"},
@@ -58,7 +60,8 @@ TEST(CliCommandLine, UnusableCommandLinesNameTheProblem) {
                 << args.front() << ": " << e.what();
         }
     }
-    EXPECT_EQ(parseCommandLine({"--locale", "C"}).options.locale, "C");
+    if (localeInstalled("C"))
+        EXPECT_EQ(parseCommandLine({"--locale", "C"}).options.locale, "C");
     EXPECT_EQ(parseCommandLine({"--locale", "EN-us"}).options.locale, "EN-us");
 }
 

@@ -116,27 +116,32 @@ bool isNegativeNumber(std::string_view word) {
            ((word[1] >= '0' && word[1] <= '9') || (word[1] == '.' && word.size() > 2));
 }
 
-// Why getopt turned a word down.
-std::string optionProblem(std::string_view word, int code, int missing) {
-    if (code == ':')
-        return "option '" + std::string(word.substr(0, word.find('='))) + "' needs a value";
+// Why getopt turned a word down. getopt implementations differ in the code they give a value
+// an option does not take, so the word itself tells.
+std::string optionProblem(std::string_view word, int code, int shortOption) {
     if (!word.starts_with("--"))
-        return "unknown option '-" + std::string(1, static_cast<char>(missing)) + "'";
-    const std::string_view name = word.substr(2, word.find('=') - 2);
-    // getopt names the option it took an abbreviation for.
-    for (const OptionRow& r : rows) {
-        if (missing != 0 && r.def.val == missing)
-            return "option '--" + std::string(r.def.name) + "' takes no value";
-    }
-    std::size_t prefixed = 0;
+        return "unknown option '-" + std::string(1, static_cast<char>(shortOption)) + "'";
+    const std::size_t equals = word.find('=');
+    const std::string_view name = word.substr(2, equals == word.npos ? word.npos : equals - 2);
+    std::vector<const OptionRow*> prefixed;
     for (const OptionRow& r : rows) {
         const std::string_view full = r.def.name;
-        if (full == name && word.find('=') != word.npos)
-            return "option '--" + std::string(full) + "' takes no value";
-        prefixed += full.starts_with(name) ? 1 : 0;
+        if (full == name) {
+            prefixed = {&r};
+            break;
+        }
+        if (full.starts_with(name))
+            prefixed.push_back(&r);
     }
-    if (prefixed > 1)
+    if (prefixed.size() > 1)
         return "ambiguous option '" + std::string(word) + "'";
+    if (prefixed.empty())
+        return "unknown option '" + std::string(word) + "'";
+    const std::string option = "'--" + std::string(prefixed.front()->def.name) + "'";
+    if (equals != word.npos && prefixed.front()->def.has_arg == no_argument)
+        return "option " + option + " takes no value";
+    if (code == ':')
+        return "option " + option + " needs a value";
     return "unknown option '" + std::string(word) + "'";
 }
 
