@@ -1,5 +1,6 @@
 #include "platform/win32/services.h"
 #include "platform/win32/wide.h"
+#include "ui/dialog_host_choice.h"
 
 #include <windows.h>
 
@@ -33,6 +34,7 @@ std::unique_ptr<Platform> Platform::createNative() {
     p->environment = win32::createEnvironment();
     p->input = win32::createInputState();
     p->ui = win32::createUserInterface();
+    p->dialogs = ui::createDialogHost();
     p->shell = win32::createShell();
     p->registry = win32::createRegistry();
     p->fileStore = win32::createFileStore();
