@@ -103,7 +103,7 @@ grep -qF "text \"Runtime error '&H80040000':\"" <<<"$trace" ||
     fail "the error box's headline is wrong: $trace"
 grep -qF 'form "velkor6.loadRes"' <<<"$trace" || fail "the error box's title is wrong: $trace"
 
-check "the input is cut at 8 characters" "1|123456789" "1 2 3 4 5 6 7 8 9 0 Return" \
+check "the input is cut at 8 characters" '1|value = "12345678"' "1 2 3 4 5 6 7 8 9 0 Return" \
     vkrInputValue "08|Code" "Title" "" ""
 grep -q 'field maxLength 8' <<<"$trace" || fail "the input field has no limit of 8: $trace"
 

@@ -6,10 +6,12 @@
 #include <QLibraryInfo>
 #include <QStringList>
 #include <X11/Xlib.h>
+#include <chrono>
 #include <clocale>
 #include <cstdlib>
 #include <memory>
 #include <string>
+#include <thread>
 
 namespace velkor6::qt {
 namespace {
@@ -57,7 +59,14 @@ bool startApplication() {
         return qobject_cast<QApplication*>(existing) != nullptr;
     // A connection that fails inside Qt aborts the process; this one only says no. It stays open
     // until Qt has connected: a connection made right after one was closed fails now and then.
-    const std::unique_ptr<Display, DisplayCloser> probe(XOpenDisplay(nullptr));
+    std::unique_ptr<Display, DisplayCloser> probe;
+    // A busy server refuses a connection now and then (EAGAIN); that is no reason to go without
+    // a display.
+    for (int attempt = 0; attempt < 5 && !probe; ++attempt) {
+        if (attempt > 0)
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        probe.reset(XOpenDisplay(nullptr));
+    }
     if (!probe || !platformUsable())
         return false;
     // Qt keeps a reference to argc and reads argv for the whole life of the application, which
