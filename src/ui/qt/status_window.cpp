@@ -3,6 +3,8 @@
 #include "dialogs/rtf_reader.h"
 #include "ui/qt/convert.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
 #include <QWindow>
@@ -50,6 +52,13 @@ void StatusWidget::apply(const StatusWindow& window) {
         ownerWindow_ = std::move(foreign);
     }
     show();
+    // A caller often shows the window and then works without serving events; the window must
+    // show its contents all the same, so it is painted now, once the server has shown it.
+    QElapsedTimer waited;
+    waited.start();
+    while (!windowHandle()->isExposed() && waited.elapsed() < 500)
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
+    repaint();
 }
 
 } // namespace velkor6::qt
