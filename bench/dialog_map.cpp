@@ -33,7 +33,13 @@ using Clock = std::chrono::steady_clock;
 
 class MapWatcher {
 public:
-    MapWatcher() : display_(XOpenDisplay(nullptr)) {
+    MapWatcher() {
+        // A busy server refuses a connection now and then.
+        for (int attempt = 0; attempt < 10 && display_ == nullptr; ++attempt) {
+            if (attempt > 0)
+                std::this_thread::sleep_for(std::chrono::milliseconds(50));
+            display_ = XOpenDisplay(nullptr);
+        }
         if (display_ == nullptr) {
             std::fprintf(stderr, "dialog_map: no X display\n");
             std::exit(2);
@@ -84,7 +90,7 @@ private:
         }
     }
 
-    Display* display_;
+    Display* display_ = nullptr;
     std::thread thread_;
     std::mutex mutex_;
     std::condition_variable changed_;
@@ -174,6 +180,8 @@ int exec(char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // The watcher thread and Qt each have their own connection.
+    XInitThreads();
     const std::string mode = argc > 1 ? argv[1] : "";
     if (mode == "calls" && argc == 3)
         return calls(std::atoi(argv[2]));

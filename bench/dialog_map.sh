@@ -24,10 +24,10 @@ for _ in $(seq "$runs"); do
     first+=("$(awk '$1 == "first" { print $2 }' <<<"$lines")")
     later+=($(awk '$1 == "later" { print $2 }' <<<"$lines"))
     cli+=("$("$bin/velkor6_dialog_map" exec "$bin/velkor6" call vkrMsgBox "Save changes?" "x" 4 |
-              awk '{ print $2 }')")
+              awk '$1 == "exec" { print $2 }')")
     if command -v zenity >/dev/null; then
         zen+=("$("$bin/velkor6_dialog_map" exec zenity --question --text "Save changes?" 2>/dev/null |
-                  awk '{ print $2 }')")
+                  awk '$1 == "exec" { print $2 }')")
     fi
 done
 printf 'first box of a process (loads Qt): %s ms\n' "$(printf '%s\n' "${first[@]}" | median)"
