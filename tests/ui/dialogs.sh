@@ -26,6 +26,8 @@ mkdir -p "$stage"
 cp "$cli" "$qtlib" "$stage/"
 printf '[Application]\nLanguage=2\n' >"$stage/velkor6.ini"
 cli=$stage/$(basename "$cli")
+# In a sanitizer build: what the system's libraries under Qt keep is theirs.
+export LSAN_OPTIONS="suppressions=$(realpath "$here")/lsan.supp:print_suppressions=0${LSAN_OPTIONS:+:$LSAN_OPTIONS}"
 
 failures=0
 fail() {
@@ -74,7 +76,13 @@ check() {
         reap "$pid"
         return
     fi
-    xdotool windowfocus "$id" 2>/dev/null
+    # Keys go where the X focus is; a window that has just been mapped may not take it yet.
+    local i
+    for i in $(seq 40); do
+        xdotool windowfocus "$id" 2>/dev/null
+        [ "$(xdotool getwindowfocus 2>/dev/null)" = "$id" ] && break
+        sleep 0.05
+    done
     sleep 0.1
     local key
     for key in $keys; do
@@ -85,6 +93,10 @@ check() {
         return
     fi
     trace=$(grep '^velkor6-qt:' "$err")
+    # A sanitizer build reports on standard error.
+    if grep -qE 'ERROR: (Address|Leak)Sanitizer|runtime error:' "$err"; then
+        fail "$name: sanitizer report: $(grep -m 3 -E 'Sanitizer|runtime error' "$err")"
+    fi
     local got
     got=$(paste -sd '|' "$out")
     [ "$got" = "$expected" ] || fail "$name: printed '$got', expected '$expected'"
