@@ -16,14 +16,19 @@ wm_start || echo "screenshots: no jwm; the windows have no frames"
 
 # The language of the boxes is the library's own setting, kept beside the library; each locale
 # gets a copy of the programs with a settings file of its own, and the build's stays as it is.
-staged() { # locale
-    local dir=$xvfb_dir/$1 language=2
+staged() { # locale [renderer]
+    local renderer=${2:-qt}
+    local dir=$xvfb_dir/$renderer-$1 language=2
     [ "$1" = de-DE ] && language=1
     if [ ! -d "$dir" ]; then
         mkdir -p "$dir"
-        cp build/default/tools/velkor6/velkor6 build/default/tools/velkor6/libvelkor6-qt.so "$dir/"
-        cp build/default/tools/velkor6/velkor6_dialog_map "$dir/" 2>/dev/null
-        printf '[Application]\nLanguage=%s\n' "$language" >"$dir/velkor6.ini"
+        if [ "$renderer" = win32 ]; then
+            cp "$win32_program" "$dir/"
+        else
+            cp build/default/tools/velkor6/velkor6 build/default/tools/velkor6/libvelkor6-qt.so "$dir/"
+            cp build/default/tools/velkor6/velkor6_dialog_map "$dir/" 2>/dev/null
+        fi
+        printf '[Application]\r\nLanguage=%s\r\n' "$language" >"$dir/velkor6.ini"
     fi
     echo "$dir"
 }
@@ -61,7 +66,7 @@ shot() {
     local program
     case $renderer in
     qt) program=("$(staged "$locale")/velkor6") ;;
-    win32) program=(wine "$win32_program") ;;
+    win32) program=(wine "$(staged "$locale" win32)/$(basename "$win32_program")") ;;
     esac
     # stdin stays open until the capture is done, so that windows that do not block (the status
     # window) stay up.
