@@ -4,7 +4,13 @@
 set -euo pipefail
 
 packages=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev libpugixml-dev pkgconf
-          libedit-dev tmux "$@")
+          # The Qt dialog host: qt6-base-dev to build it; at run time the widgets, the xcb platform
+          # plugin (only recommended by libqt6gui6, so named here) and a font.
+          qt6-base-dev libqt6widgets6 qt6-qpa-plugins fonts-dejavu-core
+          # Dialog tests and screenshots on a display of their own.
+          xvfb xdotool jwm x11-apps x11-utils imagemagick
+          libedit-dev tmux
+          "$@")
 missing=()
 for p in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")

@@ -2,6 +2,10 @@
 
 #include "ui/headless/headless_host.h"
 
+#ifndef _WIN32
+#include "platform/posix/qt_loader.h"
+#endif
+
 #include <cstdlib>
 #include <filesystem>
 #include <string_view>
@@ -32,10 +36,17 @@ std::string_view environmentValue(const char* name) {
 
 std::unique_ptr<DialogHost> createDialogHost() {
     const std::string_view chosen = environmentValue("VELKOR6_UI");
-    if (chosen == "headless")
+    const auto headless = [] {
         return std::make_unique<HeadlessHost>(HeadlessHost::fromEnvironment());
-    // The toolkit hosts join here; until then every process draws its dialogs as text.
-    return std::make_unique<HeadlessHost>(HeadlessHost::fromEnvironment());
+    };
+    if (chosen == "headless")
+        return headless();
+#ifndef _WIN32
+    // Qt is loaded when the first dialog is shown, not now: most programs never show one.
+    if (displayReachable())
+        return posix::qtOnFirstUse(headless);
+#endif
+    return headless();
 }
 
 } // namespace velkor6::ui

@@ -29,12 +29,14 @@ echo "== install into $prefix"
 cmake --install "$build" --prefix "$prefix" >/dev/null
 
 # The install holds the headers, the library with its CMake package and pkg-config file, the
-# program and the member reference, nothing else.
+# program, the Qt dialog host and the member reference, nothing else.
 pc=$(find "$prefix" -name velkor6.pc)
 [ -n "$pc" ] || { echo "FAIL no velkor6.pc installed"; exit 1; }
 libdir=$(dirname "$(dirname "${pc#"$prefix"/}")")
 expected=$( (cd "$root/include" && find velkor6 -name '*.h' | sed 's|^|include/|')
             grep -q '^VELKOR6_PROGRAM:BOOL=ON$' "$build/CMakeCache.txt" && echo bin/velkor6
+            # The Qt dialog host, where Qt was there to build it.
+            [ -f "$build/tools/velkor6/libvelkor6-qt.so" ] && echo "$libdir/libvelkor6-qt.so"
             printf '%s\n' share/doc/velkor6/members.md "$libdir/libvelkor6.a" \
                 "$libdir/pkgconfig/velkor6.pc" "$libdir/cmake/velkor6/velkor6-config.cmake" \
                 "$libdir/cmake/velkor6/velkor6-config-version.cmake" \

@@ -14,8 +14,8 @@ std::unique_ptr<Platform> Platform::createNative() {
     p->fileSystem = posix::createFileSystem();
     p->environment = posix::createEnvironment();
     p->input = posix::createInputState();
-    p->ui = posix::createUserInterface();
     p->dialogs = ui::createDialogHost();
+    p->ui = posix::createUserInterface(*p->dialogs);
     p->shell = posix::createShell();
     p->registry = posix::createRegistry();
     p->fileStore = posix::createFileStore();

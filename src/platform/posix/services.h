@@ -11,7 +11,8 @@ std::unique_ptr<Clock> createClock();
 std::unique_ptr<FileSystem> createFileSystem();
 std::unique_ptr<Environment> createEnvironment();
 std::unique_ptr<InputState> createInputState();
-std::unique_ptr<UserInterface> createUserInterface();
+// Serving events runs the dialog host's toolkit once it is loaded.
+std::unique_ptr<UserInterface> createUserInterface(DialogHost& dialogs);
 std::unique_ptr<Shell> createShell();
 
 } // namespace velkor6::posix

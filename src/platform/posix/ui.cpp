@@ -10,6 +10,8 @@ namespace {
 // so that batch runs never wait for a user.
 class PosixUserInterface final : public UserInterface {
 public:
+    explicit PosixUserInterface(DialogHost& dialogs) : dialogs_(dialogs) {}
+
     std::int32_t messageBox(std::u16string_view text, std::u16string_view title,
                             std::int32_t style) override {
         std::cerr << "[" << toUtf8(title) << "] " << toUtf8(text) << '\n';
@@ -17,13 +19,16 @@ public:
         return defaultButtonResult(style);
     }
 
-    void serveEvents() override {}
+    void serveEvents() override { dialogs_.serveEvents(); }
+
+private:
+    DialogHost& dialogs_;
 };
 
 } // namespace
 
-std::unique_ptr<UserInterface> createUserInterface() {
-    return std::make_unique<PosixUserInterface>();
+std::unique_ptr<UserInterface> createUserInterface(DialogHost& dialogs) {
+    return std::make_unique<PosixUserInterface>(dialogs);
 }
 
 } // namespace velkor6::posix
