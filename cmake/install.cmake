@@ -17,14 +17,12 @@ endif()
 install(FILES ${PROJECT_SOURCE_DIR}/docs/members.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 # A static velkor6 carries pugixml in its link interface (src/platform); a shared one has it
-# inside.
+# inside, its symbols hidden.
 get_target_property(velkor6_type velkor6 TYPE)
 if(NOT WIN32 AND velkor6_type STREQUAL "STATIC_LIBRARY")
-  set(VELKOR6_NEEDS_PUGIXML ON)
   set(VELKOR6_FIND_DEPENDENCIES
       "# The static library links pugixml::static.\nfind_dependency(pugixml)\n")
 else()
-  set(VELKOR6_NEEDS_PUGIXML OFF)
   set(VELKOR6_FIND_DEPENDENCIES "")
 endif()
 
@@ -50,16 +48,15 @@ foreach(dir LIBDIR INCLUDEDIR)
   endif()
 endforeach()
 set(VELKOR6_PC_PREFIX "@CMAKE_INSTALL_PREFIX@")
-get_target_property(VELKOR6_PC_LIBS velkor6 VELKOR6_PC_LIBS)
-if(NOT VELKOR6_PC_LIBS)
-  set(VELKOR6_PC_LIBS "")
+# A shared velkor6 has its dependencies inside; a static one needs them on the link, which
+# `pkg-config --static` adds.
+get_target_property(VELKOR6_PC_LIBS_PRIVATE velkor6 VELKOR6_PC_LIBS)
+if(NOT VELKOR6_PC_LIBS_PRIVATE)
+  set(VELKOR6_PC_LIBS_PRIVATE "")
 endif()
-# A static library's dependencies belong on every link, a shared one's only on a static link.
-set(VELKOR6_PC_REQUIRES "")
-set(VELKOR6_PC_REQUIRES_PRIVATE "")
-if(VELKOR6_NEEDS_PUGIXML)
-  set(VELKOR6_PC_REQUIRES pugixml)
-elseif(NOT WIN32)
+if(WIN32)
+  set(VELKOR6_PC_REQUIRES_PRIVATE "")
+else()
   set(VELKOR6_PC_REQUIRES_PRIVATE pugixml)
 endif()
 configure_file(${CMAKE_CURRENT_LIST_DIR}/velkor6.pc.in ${PROJECT_BINARY_DIR}/velkor6.pc.in @ONLY)

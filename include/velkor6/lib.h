@@ -2,19 +2,20 @@
 // one src/lib file per family; through that table the members are reachable by name (CLI, COM).
 #pragma once
 
+#include "velkor6/applib.h"
+#include "velkor6/export.h"
+#include "velkor6/module.h"
+#include "velkor6/records.h"
+#include "velkor6/variant.h"
+
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
 
-#include "velkor6/applib.h"
-#include "velkor6/module.h"
-#include "velkor6/records.h"
-#include "velkor6/variant.h"
-
 namespace velkor6 {
 
-class lib {
+class VELKOR6_API lib {
 public:
     // Creates and initialises the library's own application context "velkor6".
     explicit lib(std::shared_ptr<Module> module);
@@ -61,8 +62,7 @@ public:
     bool vkrIsInSigns(std::u16string_view sSource, std::u16string_view sSigns, std::int16_t iStart,
                       std::int16_t iLen);
     bool vkrIsNumericWord(std::u16string_view sSource, std::int16_t iStart, std::int16_t iLen);
-    std::u16string vkrMid(std::u16string_view Source, std::int32_t Start,
-                          std::int32_t length = -1);
+    std::u16string vkrMid(std::u16string_view Source, std::int32_t Start, std::int32_t length = -1);
     void vkrMidLet(std::u16string& Source, std::int32_t Start, std::int32_t length,
                    std::u16string_view value);
 
@@ -138,7 +138,8 @@ public:
                                 std::u16string_view sValueName,
                                 std::u16string_view sDefaultValue = {});
     std::int32_t regSubKeyCount(std::int32_t lRegKey, std::u16string_view sRegSubKey);
-    // Fills sKeys with the names of the direct sub-keys; leaves it alone when the key does not open.
+    // Fills sKeys with the names of the direct sub-keys; leaves it alone when the key does not
+    // open.
     void regFindKeys(std::int32_t lRegKey, std::u16string_view sRegSubKey, VariantArray& sKeys);
 
     // --- XML resources and resource libraries -----------------------------------------------

@@ -78,7 +78,7 @@ struct CppParam {
 std::map<std::string, std::vector<CppParam>> declarations(const std::string& header,
                                                           const std::string& cls) {
     const std::string text = readFile(source / "include/velkor6" / header);
-    const std::size_t begin = text.find("class " + cls + " {");
+    const std::size_t begin = text.find("class VELKOR6_API " + cls + " {");
     const std::string body = text.substr(begin, text.find("\n};", begin) - begin);
     std::map<std::string, std::vector<CppParam>> out;
     static const std::regex declaration(R"(([A-Za-z]\w*)\(((?:[^;{}]|\{\})*)\)\s*;)");
