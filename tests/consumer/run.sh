@@ -29,7 +29,7 @@ echo "== install into $prefix"
 cmake --install "$build" --prefix "$prefix" >/dev/null
 
 # The install holds the headers, the library with its CMake package and pkg-config file, the
-# program and the member reference, nothing else.
+# program, the member reference, the README and the C++ example, nothing else.
 pc=$(find "$prefix" -name velkor6.pc)
 [ -n "$pc" ] || { echo "FAIL no velkor6.pc installed"; exit 1; }
 libdir=$(dirname "$(dirname "${pc#"$prefix"/}")")
@@ -44,7 +44,8 @@ expected=$( (cd "$root/include" && find velkor6 -name '*.h' | sed 's|^|include/|
             else
                 echo "$libdir/libvelkor6.a"
             fi
-            printf '%s\n' share/doc/velkor6/members.md \
+            (cd "$root/examples" && find cpp -type f | sed 's|^|share/doc/velkor6/examples/|')
+            printf '%s\n' share/doc/velkor6/members.md share/doc/velkor6/README.md \
                 "$libdir/pkgconfig/velkor6.pc" "$libdir/cmake/velkor6/velkor6-config.cmake" \
                 "$libdir/cmake/velkor6/velkor6-config-version.cmake" \
                 "$libdir/cmake/velkor6/velkor6-targets.cmake" \
