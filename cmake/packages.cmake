@@ -5,7 +5,6 @@ set(CPACK_PACKAGE_NAME velkor6)
 set(CPACK_PACKAGE_VENDOR velkor6)
 set(CPACK_PACKAGE_CONTACT "velkor6 developers <velkor6@localhost>")
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "VB-style text, number, file and settings helpers")
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
 set(CPACK_STRIP_FILES ON)
@@ -27,25 +26,25 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
+set(CPACK_DEBIAN_RUNTIME_DESCRIPTION
     "VB-style text, number, file and settings helpers (shared library)
- velkor6 searches and rewrites text with VB's rules, parses numbers and writes SQL literals,
- works with files, folders, settings files and the registry, and packs text with LZW.")
+velkor6 searches and rewrites text with VB's rules, parses numbers and writes SQL literals,
+works with files, folders, settings files and the registry, and packs text with LZW.")
 
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME libvelkor6-dev)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 # The headers belong to exactly this library; pugixml.pc is named by velkor6.pc.
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "${runtime_package} (= ${deb_version}), libpugixml-dev")
-set(CPACK_COMPONENT_DEV_DESCRIPTION
+set(CPACK_DEBIAN_DEV_DESCRIPTION
     "VB-style text, number, file and settings helpers (development files)
- The C++20 headers, the CMake package (find_package(velkor6)), the pkg-config file, the README
- and a C++ example.")
+The C++20 headers, the CMake package (find_package(velkor6)), the pkg-config file, the README
+and a C++ example.")
 
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME velkor6)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION utils)
-set(CPACK_COMPONENT_PROGRAM_DESCRIPTION
+set(CPACK_DEBIAN_PROGRAM_DESCRIPTION
     "VB-style text, number, file and settings helpers (command-line program)
- The velkor6 program calls the library's members by name from the command line, packs and
- unpacks text, and lists the members; the member reference comes with it.")
+The velkor6 program calls the library's members by name from the command line, packs and
+unpacks text, and lists the members; the member reference comes with it.")
 
 include(CPack)
