@@ -69,10 +69,11 @@ if [ "$shared" = 1 ]; then
     [ "$soname" = "libvelkor6.so.$major" ] || fail "the SONAME is '$soname', not libvelkor6.so.$major"
     [ "$(readlink "$prefix/$libdir/libvelkor6.so.$major")" = "libvelkor6.so.$version" ] ||
         fail "libvelkor6.so.$major does not point to libvelkor6.so.$version"
-    # Each exported symbol must belong to a class or function the public headers declare; the
-    # layers' own functions, pugixml's and the standard templates' instances stay inside.
-    declared=$(grep -rhoE '(class|struct) +(VELKOR6_API +)?[A-Za-z_][A-Za-z0-9_]*|[A-Za-z_][A-Za-z0-9_=!<>]*\(' \
-                   "$root/include/velkor6" | sed -E 's/.* //; s/\($//' | sort -u)
+    # Each exported symbol must belong to a class or function the public headers mark for
+    # export; the layers' own functions, pugixml's and the standard templates' instances stay
+    # inside.
+    declared=$(grep -rhoE '^(class|struct) VELKOR6_API [A-Za-z_][A-Za-z0-9_]*|^VELKOR6_API [^(]*\(' \
+                   "$root/include/velkor6" | sed -E 's/\($//; s/.* //' | sort -u)
     exported=$(nm -D --defined-only -C "$so" | cut -d' ' -f3-)
     count=$(wc -l <<<"$exported")
     internal=$(sed -E 's/^(typeinfo name for|typeinfo for|vtable for|non-virtual thunk to) //' \
