@@ -1,36 +1,44 @@
 # Installs the public headers, the library with its CMake package and pkg-config file, the
-# program and the member reference.
+# program and the member reference. The components are the Debian packages (cmake/packages.cmake):
+# runtime (the shared library), dev (what a build against it needs) and program.
 include(CMakePackageConfigHelpers)
 
 set(VELKOR6_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/velkor6)
 
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/velkor6
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+  COMPONENT dev
   FILES_MATCHING PATTERN "*.h")
 install(TARGETS velkor6 EXPORT velkor6-targets
-  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
+install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT dev)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples/cpp
+  DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples COMPONENT dev)
 if(VELKOR6_PROGRAM)
-  install(TARGETS velkor6_cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(TARGETS velkor6_cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT program)
 endif()
-install(FILES ${PROJECT_SOURCE_DIR}/docs/members.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${PROJECT_SOURCE_DIR}/docs/members.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
+  COMPONENT program)
 
 # A static velkor6 carries pugixml in its link interface (src/platform); a shared one has it
-# inside.
+# inside, its symbols hidden.
 get_target_property(velkor6_type velkor6 TYPE)
 if(NOT WIN32 AND velkor6_type STREQUAL "STATIC_LIBRARY")
-  set(VELKOR6_NEEDS_PUGIXML ON)
   set(VELKOR6_FIND_DEPENDENCIES
       "# The static library links pugixml::static.\nfind_dependency(pugixml)\n")
 else()
-  set(VELKOR6_NEEDS_PUGIXML OFF)
   set(VELKOR6_FIND_DEPENDENCIES "")
 endif()
 
 install(EXPORT velkor6-targets
   NAMESPACE velkor6::
-  DESTINATION ${VELKOR6_CMAKE_DIR})
+  DESTINATION ${VELKOR6_CMAKE_DIR}
+  COMPONENT dev)
+# The build tree is a package too: find_package(velkor6) with velkor6_DIR set to it (the
+# example_cpp test builds examples/cpp so).
+export(EXPORT velkor6-targets NAMESPACE velkor6:: FILE ${PROJECT_BINARY_DIR}/velkor6-targets.cmake)
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/velkor6-config.cmake.in
   ${PROJECT_BINARY_DIR}/velkor6-config.cmake
   INSTALL_DESTINATION ${VELKOR6_CMAKE_DIR})
@@ -38,7 +46,8 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/velkor6-config-version.cm
   COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/velkor6-config.cmake
               ${PROJECT_BINARY_DIR}/velkor6-config-version.cmake
-  DESTINATION ${VELKOR6_CMAKE_DIR})
+  DESTINATION ${VELKOR6_CMAKE_DIR}
+  COMPONENT dev)
 
 # velkor6.pc. The prefix is the one given at install time (cmake --install --prefix), so the
 # file is written in two steps: the install directories now, the prefix when installing.
@@ -50,19 +59,20 @@ foreach(dir LIBDIR INCLUDEDIR)
   endif()
 endforeach()
 set(VELKOR6_PC_PREFIX "@CMAKE_INSTALL_PREFIX@")
-get_target_property(VELKOR6_PC_LIBS velkor6 VELKOR6_PC_LIBS)
-if(NOT VELKOR6_PC_LIBS)
-  set(VELKOR6_PC_LIBS "")
+# A shared velkor6 has its dependencies inside; a static one needs them on the link, which
+# `pkg-config --static` adds.
+get_target_property(VELKOR6_PC_LIBS_PRIVATE velkor6 VELKOR6_PC_LIBS)
+if(NOT VELKOR6_PC_LIBS_PRIVATE)
+  set(VELKOR6_PC_LIBS_PRIVATE "")
 endif()
-# A static library's dependencies belong on every link, a shared one's only on a static link.
-set(VELKOR6_PC_REQUIRES "")
-set(VELKOR6_PC_REQUIRES_PRIVATE "")
-if(VELKOR6_NEEDS_PUGIXML)
-  set(VELKOR6_PC_REQUIRES pugixml)
-elseif(NOT WIN32)
+if(WIN32)
+  set(VELKOR6_PC_REQUIRES_PRIVATE "")
+else()
   set(VELKOR6_PC_REQUIRES_PRIVATE pugixml)
 endif()
 configure_file(${CMAKE_CURRENT_LIST_DIR}/velkor6.pc.in ${PROJECT_BINARY_DIR}/velkor6.pc.in @ONLY)
 install(CODE "configure_file(\"${PROJECT_BINARY_DIR}/velkor6.pc.in\"
-                             \"${PROJECT_BINARY_DIR}/velkor6.pc\" @ONLY)")
-install(FILES ${PROJECT_BINARY_DIR}/velkor6.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+                             \"${PROJECT_BINARY_DIR}/velkor6.pc\" @ONLY)"
+  COMPONENT dev)
+install(FILES ${PROJECT_BINARY_DIR}/velkor6.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+  COMPONENT dev)

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds and runs every test: the default preset, then the sanitizer preset, then the fuzzers for
+# Builds and runs every test: the default preset, then the sanitizer preset, then the Debian
+# packages on a fresh Debian 12 (as root; VELKOR6_PACKAGES=0 leaves them out), then the fuzzers for
 # 20 seconds each when clang is installed, then the Windows builds, the 64-bit and the 32-bit
 # one, each tested under Wine. VELKOR6_WINDOWS=0 leaves the Windows builds out.
 set -euo pipefail
@@ -29,6 +30,16 @@ for preset in default asan; do
     cmake --build --preset "$preset"
     ctest --preset "$preset" -j2
 done
+
+# The Debian packages, installed and used on a fresh Debian 12: a chroot, so as root only.
+if [ "${VELKOR6_PACKAGES:-1}" != 0 ]; then
+    if [ "$(id -u)" = 0 ]; then
+        echo "== packages"
+        tests/packages/run.sh
+    else
+        echo "== packages: left out (the Debian 12 chroot needs root)"
+    fi
+fi
 
 # The fuzzers, when clang is there to build them: 20 seconds each on their seed corpora.
 if command -v clang++ >/dev/null; then

@@ -3,6 +3,7 @@
 // in one src/lib file per family; through that table the members are reachable by name (CLI, COM).
 #pragma once
 
+#include "velkor6/export.h"
 #include "velkor6/module.h"
 #include "velkor6/variant.h"
 
@@ -26,7 +27,7 @@ struct HostApp {
     std::int16_t revision = 0;
 };
 
-class applib {
+class VELKOR6_API applib {
 public:
     // A context for "globals" that touches no file until it is used; lib::vkrInitApp makes
     // initialised ones.

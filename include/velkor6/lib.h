@@ -3,6 +3,7 @@
 #pragma once
 
 #include "velkor6/applib.h"
+#include "velkor6/export.h"
 #include "velkor6/module.h"
 #include "velkor6/records.h"
 #include "velkor6/variant.h"
@@ -14,7 +15,7 @@
 
 namespace velkor6 {
 
-class lib {
+class VELKOR6_API lib {
 public:
     // Creates and initialises the library's own application context "velkor6".
     explicit lib(std::shared_ptr<Module> module);

@@ -1,6 +1,7 @@
 // The module context: everything that lives as long as the library is loaded.
 #pragma once
 
+#include "velkor6/export.h"
 #include "velkor6/locale.h"
 #include "velkor6/platform/platform.h"
 
@@ -14,7 +15,7 @@ namespace velkor6 {
 // Module-wide state of one loaded library, and the platform it runs on. Tests create their own
 // modules over a fake platform so that they never share state; the front ends use one module
 // over the native platform.
-class Module {
+class VELKOR6_API Module {
 public:
     Module(std::unique_ptr<Platform> platform, Locale locale);
 

@@ -2,6 +2,7 @@
 // the dispatch table as a ByRef argument and front ends can show it field by field.
 #pragma once
 
+#include "velkor6/export.h"
 #include "velkor6/locale.h"
 #include "velkor6/variant.h"
 
@@ -12,7 +13,7 @@
 
 namespace velkor6 {
 
-class RecordObject : public Object {
+class VELKOR6_API RecordObject : public Object {
 public:
     struct Field {
         std::u16string name;

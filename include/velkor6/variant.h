@@ -1,6 +1,8 @@
 // The dynamically typed value that crosses every public interface of the library.
 #pragma once
 
+#include "velkor6/export.h"
+
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -34,7 +36,9 @@ enum class VarType : std::uint16_t {
 constexpr VarType operator|(VarType a, VarType b) {
     return static_cast<VarType>(static_cast<std::uint16_t>(a) | static_cast<std::uint16_t>(b));
 }
-constexpr bool isArrayType(VarType t) { return (static_cast<std::uint16_t>(t) & 0x2000) != 0; }
+constexpr bool isArrayType(VarType t) {
+    return (static_cast<std::uint16_t>(t) & 0x2000) != 0;
+}
 constexpr VarType elementType(VarType t) {
     return static_cast<VarType>(static_cast<std::uint16_t>(t) & 0x0FFF);
 }
@@ -74,9 +78,8 @@ class Variant;
 // How a member is called: the three ways a dispatch interface tells apart.
 enum class CallKind { Method, PropertyGet, PropertyLet };
 
-class Object {
+class VELKOR6_API Object {
 public:
-
     virtual ~Object() = default;
     virtual std::u16string typeName() const = 0;
     // Calls a member by name; arguments may be written back (ByRef).
@@ -100,7 +103,7 @@ struct VariantArray {
     std::vector<Variant> items;
 };
 
-class Variant {
+class VELKOR6_API Variant {
 public:
     struct NullTag {
         friend constexpr bool operator==(NullTag, NullTag) = default;
@@ -177,5 +180,8 @@ private:
                  std::u16string, bool, Decimal, std::uint8_t, ObjectRef, ErrorCode, ArrayBox>
         value_;
 };
+
+// The friend above, declared here as well so that the shared library exports it.
+VELKOR6_API bool operator==(const Variant& a, const Variant& b);
 
 } // namespace velkor6

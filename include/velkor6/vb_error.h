@@ -1,6 +1,8 @@
 // The one exception type of the library: a VB run-time or library error.
 #pragma once
 
+#include "velkor6/export.h"
+
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -30,7 +32,7 @@ constexpr std::int32_t duplicateKey = 457;
 constexpr std::int32_t library = static_cast<std::int32_t>(0x80040000u);
 } // namespace vberr
 
-class VbError : public std::runtime_error {
+class VELKOR6_API VbError : public std::runtime_error {
 public:
     VbError(std::int32_t number, std::u16string description, std::u16string source = u"velkor6");
     // The run-time error with VB's own description.
@@ -41,7 +43,8 @@ public:
     const std::u16string& source() const { return source_; }
     void setSource(std::u16string source) { source_ = std::move(source); }
 
-    // VB's description of a run-time error number, or "Application-defined or object-defined error".
+    // VB's description of a run-time error number, or "Application-defined or object-defined
+    // error".
     static std::u16string describe(std::int32_t number);
 
 private:

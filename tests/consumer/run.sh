@@ -29,15 +29,25 @@ echo "== install into $prefix"
 cmake --install "$build" --prefix "$prefix" >/dev/null
 
 # The install holds the headers, the library with its CMake package and pkg-config file, the
-# program, the Qt dialog host and the member reference, nothing else.
+# program, the Qt dialog host, the member reference, the README and the C++ example, nothing else.
 pc=$(find "$prefix" -name velkor6.pc)
 [ -n "$pc" ] || { echo "FAIL no velkor6.pc installed"; exit 1; }
 libdir=$(dirname "$(dirname "${pc#"$prefix"/}")")
+version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$build/CMakeCache.txt")
+major=${version%%.*}
+shared=0
+grep -q '^VELKOR6_SHARED:BOOL=ON$' "$build/CMakeCache.txt" && shared=1
 expected=$( (cd "$root/include" && find velkor6 -name '*.h' | sed 's|^|include/|')
             grep -q '^VELKOR6_PROGRAM:BOOL=ON$' "$build/CMakeCache.txt" && echo bin/velkor6
             # The Qt dialog host, where Qt was there to build it.
             [ -f "$build/tools/velkor6/libvelkor6-qt.so" ] && echo "$libdir/libvelkor6-qt.so"
-            printf '%s\n' share/doc/velkor6/members.md "$libdir/libvelkor6.a" \
+            if [ "$shared" = 1 ]; then
+                printf "$libdir/%s\n" libvelkor6.so "libvelkor6.so.$major" "libvelkor6.so.$version"
+            else
+                echo "$libdir/libvelkor6.a"
+            fi
+            (cd "$root/examples" && find cpp -type f | sed 's|^|share/doc/velkor6/examples/|')
+            printf '%s\n' share/doc/velkor6/members.md share/doc/velkor6/README.md \
                 "$libdir/pkgconfig/velkor6.pc" "$libdir/cmake/velkor6/velkor6-config.cmake" \
                 "$libdir/cmake/velkor6/velkor6-config-version.cmake" \
                 "$libdir/cmake/velkor6/velkor6-targets.cmake" \
@@ -51,6 +61,36 @@ fi
 if grep -l 'velkor6_core\|velkor6_platform\|velkor6_subsystems' \
        "$prefix/$libdir/cmake/velkor6/"*.cmake "$pc"; then
     fail "the installed package names the build's internal layers"
+fi
+
+if [ "$shared" = 1 ]; then
+    echo "== libvelkor6.so: its name and what it exports"
+    so=$prefix/$libdir/libvelkor6.so.$version
+    soname=$(readelf -d "$so" | sed -n 's/.*(SONAME).*\[\(.*\)\]$/\1/p')
+    echo "SONAME $soname"
+    [ "$soname" = "libvelkor6.so.$major" ] || fail "the SONAME is '$soname', not libvelkor6.so.$major"
+    [ "$(readlink "$prefix/$libdir/libvelkor6.so.$major")" = "libvelkor6.so.$version" ] ||
+        fail "libvelkor6.so.$major does not point to libvelkor6.so.$version"
+    # Each exported symbol must belong to a class or function the public headers mark for
+    # export; the layers' own functions, pugixml's and the standard templates' instances stay
+    # inside.
+    declared=$(grep -rhoE '^(class|struct) VELKOR6_API [A-Za-z_][A-Za-z0-9_]*|^VELKOR6_API [^(]*\(' \
+                   "$root/include/velkor6" | sed -E 's/\($//; s/.* //' | sort -u)
+    exported=$(nm -D --defined-only -C "$so" | cut -d' ' -f3-)
+    count=$(wc -l <<<"$exported")
+    internal=$(sed -E 's/^(typeinfo name for|typeinfo for|vtable for|non-virtual thunk to) //' \
+                   <<<"$exported" |
+               awk -v names="$declared" '
+                   BEGIN { n = split(names, list, "\n"); for (i = 1; i <= n; i++) ok[list[i]] = 1 }
+                   !/^velkor6::/ { print; next }
+                   { s = substr($0, 10); match(s, /^(operator[^(]*|[A-Za-z_][A-Za-z0-9_]*)/)
+                     if (!(substr(s, 1, RLENGTH) in ok)) print }')
+    if [ -n "$internal" ]; then
+        head -20 <<<"$internal"
+        fail "libvelkor6.so exports $(wc -l <<<"$internal") symbols the public headers do not declare"
+    else
+        echo "exports $count symbols, all declared in include/velkor6"
+    fi
 fi
 
 echo "== find_package(velkor6)"
@@ -74,10 +114,16 @@ fi
 echo "== pkg-config velkor6"
 PKG_CONFIG_PATH=$(dirname "$pc")
 export PKG_CONFIG_PATH
-flags=$(pkg-config --cflags --libs velkor6)
-echo "pkg-config --cflags --libs velkor6: $flags"
+# A static library names what it needs in the private fields.
+static=()
+[ "$shared" = 1 ] || static=(--static)
+flags=$(pkg-config "${static[@]}" --cflags --libs velkor6)
+echo "pkg-config ${static[*]} --cflags --libs velkor6: $flags"
+# A shared library in a prefix the loader does not search is found through the program's run path.
+rpath=()
+[ "$shared" = 1 ] && rpath=("-Wl,-rpath,$(pkg-config --variable=libdir velkor6)")
 # shellcheck disable=SC2086 # the flags are words
-if "$cxx" -std=c++20 "$here/main.cpp" $flags -o "$work/consumer-pc"; then
+if "$cxx" -std=c++20 "$here/main.cpp" $flags "${rpath[@]}" -o "$work/consumer-pc"; then
     out=$("$work/consumer-pc") || fail "the pkg-config-built consumer exited with status $?"
     if [ "$out" = 1 ]; then
         echo "prints $out"

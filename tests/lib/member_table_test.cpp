@@ -2,6 +2,7 @@
 // the defaults of the public headers, and each member's body beside its row.
 #include "core/text.h"
 #include "lib/applib_members.h"
+#include "lib/cpp_declaration.h"
 #include "lib/lib_members.h"
 
 #include <filesystem>
@@ -78,7 +79,7 @@ struct CppParam {
 std::map<std::string, std::vector<CppParam>> declarations(const std::string& header,
                                                           const std::string& cls) {
     const std::string text = readFile(source / "include/velkor6" / header);
-    const std::size_t begin = text.find("class " + cls + " {");
+    const std::size_t begin = text.find("class VELKOR6_API " + cls + " {");
     const std::string body = text.substr(begin, text.find("\n};", begin) - begin);
     std::map<std::string, std::vector<CppParam>> out;
     static const std::regex declaration(R"(([A-Za-z]\w*)\(((?:[^;{}]|\{\})*)\)\s*;)");
@@ -182,6 +183,28 @@ void checkDefaults(const Table<Target>& table, const std::string& header, const 
 TEST(MemberTables, RowDefaultsMatchThePublicHeaders) {
     checkDefaults(libMembers(), "lib.h", "lib");
     checkDefaults(applibMembers(), "applib.h", "applib");
+}
+
+// The member reference's C++ signatures are the headers' declarations, word for word.
+template <class Target>
+void checkCppDeclarations(const Table<Target>& table, const std::string& header,
+                          const std::string& cls) {
+    const std::string text = readFile(source / "include/velkor6" / header);
+    const std::size_t begin = text.find("class VELKOR6_API " + cls + " {");
+    std::string body = text.substr(begin, text.find("\n};", begin) - begin);
+    body = std::regex_replace(body, std::regex(R"(\s*//[^\n]*)"), "");
+    body = std::regex_replace(body, std::regex(R"(\s+)"), " ");
+    body = std::regex_replace(body, std::regex(R"(\( )"), "(");
+    for (const auto& m : table) {
+        const std::string declaration = toUtf8(cppDeclaration(m)) + ";";
+        EXPECT_NE(body.find(" " + declaration), std::string::npos)
+            << declaration << " is not what " << header << " declares";
+    }
+}
+
+TEST(MemberTables, CppDeclarationsAreThoseOfThePublicHeaders) {
+    checkCppDeclarations(libMembers(), "lib.h", "lib");
+    checkCppDeclarations(applibMembers(), "applib.h", "applib");
 }
 
 // One hop from a member to its code: the file with a member's row also holds its body.

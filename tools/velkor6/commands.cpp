@@ -5,6 +5,7 @@
 #include "core/format.h"
 #include "core/text.h"
 #include "lib/applib_members.h"
+#include "lib/cpp_declaration.h"
 #include "lib/lib_members.h"
 #include "literal.h"
 #include "velkor6/record_object.h"
@@ -359,6 +360,37 @@ int runScript(const Options& givenOptions, const LineSource& lines, std::ostream
 namespace {
 
 template <class Target>
+std::u16string heading(const dispatch::Member<Target>& m) {
+    return m.kind == CallKind::Method ? m.name : m.name + u" (" + kindLabel(m) + u")";
+}
+
+// The anchor GitHub gives a heading: lower case, punctuation dropped, spaces as hyphens.
+std::string anchor(std::u16string_view heading) {
+    std::string out;
+    for (const char16_t c : heading) {
+        if (c == u' ' || c == u'-')
+            out += '-';
+        else if ((c >= u'a' && c <= u'z') || (c >= u'0' && c <= u'9') || c == u'_')
+            out += static_cast<char>(c);
+        else if (c >= u'A' && c <= u'Z')
+            out += static_cast<char>(c - u'A' + u'a');
+    }
+    return out;
+}
+
+template <class Target>
+void listContents(const dispatch::Table<Target>& table, std::string_view cls, std::ostream& out) {
+    out << "- [Class " << cls << "](#class-" << cls << "):";
+    const char* separator = " ";
+    for (const auto& m : table) {
+        const std::u16string h = heading(m);
+        out << separator << '[' << h << "](#" << anchor(h) << ')';
+        separator = ", ";
+    }
+    out << '\n';
+}
+
+template <class Target>
 void listMembers(const dispatch::Table<Target>& table, std::u16string_view prefix, bool markdown,
                  std::ostream& out) {
     for (const auto& m : table) {
@@ -366,10 +398,9 @@ void listMembers(const dispatch::Table<Target>& table, std::u16string_view prefi
             out << kindLabel(m) << ' ' << prefix << signature(m) << '\n';
             continue;
         }
-        out << "\n### " << m.name;
-        if (m.kind != CallKind::Method)
-            out << " (" << kindLabel(m) << ")";
-        out << "\n\n`" << kindLabel(m) << ' ' << signature(m) << "`\n";
+        out << "\n### " << heading(m) << "\n\n";
+        out << "VB: `" << kindLabel(m) << ' ' << signature(m) << "`\n\n";
+        out << "C++: `" << dispatch::cppDeclaration(m) << "`\n";
         if (!m.summary.empty())
             out << '\n' << m.summary << '\n';
         if (!m.notes.empty())
@@ -394,10 +425,17 @@ std::vector<std::string> completionWords() {
 }
 
 int runMembers(bool markdown, std::ostream& out) {
-    if (markdown)
+    if (markdown) {
         out << "# Member reference\n\n"
                "Generated from the member tables by `velkor6 members --markdown`; do not edit.\n\n"
-               "## Class lib\n";
+               "Each member is declared twice: as COM clients call it (VB), and as a C++ program "
+               "calls it (the member function of `velkor6::lib` in `<velkor6/lib.h>` or of "
+               "`velkor6::applib` in `<velkor6/applib.h>`).\n\n"
+               "## Contents\n\n";
+        listContents(dispatch::libMembers(), "lib", out);
+        listContents(dispatch::applibMembers(), "applib", out);
+        out << "\n## Class lib\n";
+    }
     listMembers(dispatch::libMembers(), u"", markdown, out);
     if (markdown)
         out << "\n## Class applib\n";

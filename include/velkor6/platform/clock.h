@@ -1,13 +1,14 @@
 // Clock service: the current local time.
 #pragma once
 
-#include <chrono>
-
+#include "velkor6/export.h"
 #include "velkor6/variant.h"
+
+#include <chrono>
 
 namespace velkor6 {
 
-class Clock {
+class VELKOR6_API Clock {
 public:
     virtual ~Clock() = default;
     // Local date and time now.

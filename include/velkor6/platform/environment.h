@@ -1,6 +1,8 @@
 // Special folders, user rights and the process environment.
 #pragma once
 
+#include "velkor6/export.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -8,7 +10,7 @@
 
 namespace velkor6 {
 
-class Environment {
+class VELKOR6_API Environment {
 public:
     virtual ~Environment() = default;
     // The path of a special folder by its CSIDL number, without a trailing separator; "" for a

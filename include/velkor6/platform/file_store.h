@@ -3,6 +3,8 @@
 // replacement that never leaves a half-written file behind.
 #pragma once
 
+#include "velkor6/export.h"
+
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -25,7 +27,7 @@ struct FileIdentity {
     }
 };
 
-class FileStore {
+class VELKOR6_API FileStore {
 public:
     // Held until destroyed.
     class Lock {

@@ -1,6 +1,7 @@
 // File-system service: files and folders by path, in the platform's own path style.
 #pragma once
 
+#include "velkor6/export.h"
 #include "velkor6/platform/path_style.h"
 #include "velkor6/variant.h"
 
@@ -51,7 +52,7 @@ struct Volume {
     bool searchable = false;
 };
 
-class FileSystem {
+class VELKOR6_API FileSystem {
 public:
     using EntryVisitor = std::function<bool(const FolderEntry&)>;
 

@@ -1,11 +1,13 @@
 // Keyboard and mouse state.
 #pragma once
 
+#include "velkor6/export.h"
+
 #include <cstdint>
 
 namespace velkor6 {
 
-class InputState {
+class VELKOR6_API InputState {
 public:
     virtual ~InputState() = default;
     // The state word of a virtual key (mouse buttons are keys 1, 2 and 4): the top bit is set

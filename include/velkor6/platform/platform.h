@@ -2,6 +2,7 @@
 // and a fake one in the tests.
 #pragma once
 
+#include "velkor6/export.h"
 #include "velkor6/locale.h"
 #include "velkor6/platform/clock.h"
 #include "velkor6/platform/dialog_host.h"
@@ -21,7 +22,7 @@
 
 namespace velkor6 {
 
-struct Platform {
+struct VELKOR6_API Platform {
     std::unique_ptr<Clock> clock;
     std::unique_ptr<FileSystem> fileSystem;
     std::unique_ptr<Environment> environment;
@@ -46,6 +47,6 @@ struct Platform {
 };
 
 // The user's locale as the operating system reports it.
-Locale nativeLocale();
+VELKOR6_API Locale nativeLocale();
 
 } // namespace velkor6

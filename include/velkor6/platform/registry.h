@@ -2,6 +2,8 @@
 // functions give (names and string data through the ANSI code page).
 #pragma once
 
+#include "velkor6/export.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -78,7 +80,7 @@ struct RegValue {
     std::optional<std::u16string> text;
 };
 
-class Registry {
+class VELKOR6_API Registry {
 public:
     // An open key that closes itself. Predefined roots are handles too; closing them does nothing.
     class Key {

@@ -2,6 +2,8 @@
 // private-profile functions where it has them.
 #pragma once
 
+#include "velkor6/export.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -9,7 +11,7 @@
 
 namespace velkor6 {
 
-class SettingsFiles {
+class VELKOR6_API SettingsFiles {
 public:
     // Values are at most this many characters long (the readers' buffer holds one more).
     static constexpr std::size_t maxValueLength = 2047;

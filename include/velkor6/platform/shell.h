@@ -1,12 +1,14 @@
 // Shell service: opening documents in their programs and starting command lines.
 #pragma once
 
+#include "velkor6/export.h"
+
 #include <cstdint>
 #include <string_view>
 
 namespace velkor6 {
 
-class Shell {
+class VELKOR6_API Shell {
 public:
     virtual ~Shell() = default;
     // Opens a file with a verb ("open", "edit") the way the desktop does it. Like the system

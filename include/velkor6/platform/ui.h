@@ -1,6 +1,8 @@
 // The platform's own user interface: the plain message box and the event queue.
 #pragma once
 
+#include "velkor6/export.h"
+
 #include <cstdint>
 #include <string_view>
 
@@ -32,7 +34,7 @@ constexpr std::int32_t defaultButtonResult(std::int32_t style) {
     return result != 0 ? result : sets[set][0];
 }
 
-class UserInterface {
+class VELKOR6_API UserInterface {
 public:
     virtual ~UserInterface() = default;
     // The system's plain message box: text, title and style bits (buttons, icon, default

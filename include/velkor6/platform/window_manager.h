@@ -2,6 +2,8 @@
 // monitors' work areas and window messages.
 #pragma once
 
+#include "velkor6/export.h"
+
 #include <cstdint>
 #include <optional>
 
@@ -49,7 +51,7 @@ struct TwipsPerPixel {
     std::int32_t y = 15;
 };
 
-class WindowManager {
+class VELKOR6_API WindowManager {
 public:
     virtual ~WindowManager() = default;
 

@@ -2,6 +2,8 @@
 // attributes.
 #pragma once
 
+#include "velkor6/export.h"
+
 #include <memory>
 #include <optional>
 #include <span>
@@ -20,7 +22,7 @@ struct XmlVariable {
 
 // One node a query selected. It keeps its document's content alive, also after the document
 // loaded other text.
-class XmlNode {
+class VELKOR6_API XmlNode {
 public:
     virtual ~XmlNode() = default;
     // The element's or attribute's name.
@@ -33,7 +35,7 @@ public:
 
 using XmlNodeRef = std::shared_ptr<const XmlNode>;
 
-class XmlDocument {
+class VELKOR6_API XmlDocument {
 public:
     virtual ~XmlDocument() = default;
 
@@ -49,7 +51,7 @@ public:
     selectNodes(std::u16string_view query, std::span<const XmlVariable> variables = {}) const = 0;
 };
 
-class XmlService {
+class VELKOR6_API XmlService {
 public:
     virtual ~XmlService() = default;
     virtual std::shared_ptr<XmlDocument> createDocument() = 0;
