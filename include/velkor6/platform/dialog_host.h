@@ -29,6 +29,8 @@
 //   into lines at line breaks and, when wrapWidth is above 0, at word boundaries within it.
 #pragma once
 
+#include "velkor6/export.h"
+
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -149,7 +151,7 @@ struct StatusWindow {
     bool topMost = false;
 };
 
-class DialogHost {
+class VELKOR6_API DialogHost {
 public:
     virtual ~DialogHost() = default;
 
