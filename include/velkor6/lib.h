@@ -2,15 +2,16 @@
 // one src/lib file per family; through that table the members are reachable by name (CLI, COM).
 #pragma once
 
-#include <cstdint>
-#include <memory>
-#include <string>
-#include <string_view>
-
 #include "velkor6/applib.h"
 #include "velkor6/module.h"
 #include "velkor6/records.h"
 #include "velkor6/variant.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace velkor6 {
 
@@ -61,10 +62,31 @@ public:
     bool vkrIsInSigns(std::u16string_view sSource, std::u16string_view sSigns, std::int16_t iStart,
                       std::int16_t iLen);
     bool vkrIsNumericWord(std::u16string_view sSource, std::int16_t iStart, std::int16_t iLen);
-    std::u16string vkrMid(std::u16string_view Source, std::int32_t Start,
-                          std::int32_t length = -1);
+    std::u16string vkrMid(std::u16string_view Source, std::int32_t Start, std::int32_t length = -1);
     void vkrMidLet(std::u16string& Source, std::int32_t Start, std::int32_t length,
                    std::u16string_view value);
+
+    // --- Brackets and expressions ---------------------------------------------------------
+    std::u16string vkrExtractBrackets(std::u16string_view sSource,
+                                      std::u16string_view sBrackets = u"()",
+                                      std::int16_t iStart = 1);
+    std::u16string vkrExtractExpression(std::u16string_view sSource,
+                                        std::u16string_view sSeparators = u",",
+                                        std::u16string_view sBrackets = u"()|[]|{}",
+                                        bool bIgnoreCase = true, std::u16string* sRest = nullptr);
+    std::u16string vkrPhraseWithoutBrackets(std::u16string_view sSource,
+                                            std::u16string_view sBrackets = u"()");
+    bool vkrSeparateFunction(std::u16string_view sSource, std::u16string& sName,
+                             std::vector<std::u16string>& vArgs);
+    std::u16string vkrReplaceDecimalChars(std::u16string_view sSource,
+                                          std::u16string_view sDecimalChar = {});
+    std::u16string vkrResConv(std::u16string_view sText, bool bToXML = true);
+
+    // --- Number codes and value scrambling -----------------------------------------------
+    std::u16string vkrLng2Str(std::int32_t lValue);
+    std::int32_t vkrStr2Lng(std::u16string_view sValue);
+    std::u16string vkrEncryptedValue(std::u16string_view sValue);
+    std::u16string vkrDecryptedValue(std::u16string_view sValue);
 
     // --- Number parsing and conversion ---------------------------------------------------
     double vkrVal(std::u16string_view sSource);
@@ -90,7 +112,12 @@ public:
 
     // --- Call by name and compression ----------------------------------------------------
     // "Deflate", "Inflate" or "InflateStrict" (any letter case) applied to the text vParam.
+    // Also "GetFontList": the installed font families, a sorted String array.
     Variant vkrGlobalVar(std::u16string_view sName, const Variant& vParam = Variant::missing());
+    // "GetFontList": the installed font families as a Collection keyed by name.
+    Variant vkrGlobalObj(std::u16string_view sName, const Variant& vParam = Variant::missing());
+    // "GetFontList": as vkrGlobalVar.
+    Variant vkrProperty(std::u16string_view sName);
 
     // --- Paths and files -----------------------------------------------------------------
     std::u16string vkrGetFullPath(std::u16string_view sPath, std::u16string_view sFile);
@@ -138,7 +165,8 @@ public:
                                 std::u16string_view sValueName,
                                 std::u16string_view sDefaultValue = {});
     std::int32_t regSubKeyCount(std::int32_t lRegKey, std::u16string_view sRegSubKey);
-    // Fills sKeys with the names of the direct sub-keys; leaves it alone when the key does not open.
+    // Fills sKeys with the names of the direct sub-keys; leaves it alone when the key does not
+    // open.
     void regFindKeys(std::int32_t lRegKey, std::u16string_view sRegSubKey, VariantArray& sKeys);
 
     // --- XML resources and resource libraries -----------------------------------------------

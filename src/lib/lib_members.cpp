@@ -14,6 +14,8 @@ const Table<lib>& libMembers() {
         addInitAppMembers(t);
         addResourceMembers(t);
         addTextFileMembers(t);
+        addBracketMembers(t);
+        addValueCodeMembers(t);
         return t;
     }();
     return table;

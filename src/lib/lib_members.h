@@ -18,5 +18,7 @@ void addRegistryMembers(Table<lib>& table);
 void addFileMembers(Table<lib>& table);
 void addInitAppMembers(Table<lib>& table);
 void addResourceMembers(Table<lib>& table);
+void addBracketMembers(Table<lib>& table);
+void addValueCodeMembers(Table<lib>& table);
 
 } // namespace velkor6::dispatch

@@ -13,5 +13,6 @@ std::unique_ptr<Environment> createEnvironment();
 std::unique_ptr<InputState> createInputState();
 std::unique_ptr<UserInterface> createUserInterface();
 std::unique_ptr<Shell> createShell();
+std::unique_ptr<Fonts> createFonts();
 
 } // namespace velkor6::posix
