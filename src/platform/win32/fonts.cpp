@@ -2,6 +2,8 @@
 #include "platform/win32/wide.h"
 
 #include <memory>
+#include <type_traits>
+#include <vector>
 #include <windows.h>
 
 namespace velkor6::win32 {
