@@ -19,13 +19,19 @@ public:
     std::vector<std::u16string> families() override {
         if (!load())
             return {};
+        // A configuration of our own, released after the listing: the process-wide one would
+        // outlive us, and other users of fontconfig in the process keep theirs.
+        std::unique_ptr<FcConfig, void (*)(FcConfig*)> config(initLoadConfigAndFonts_(),
+                                                              configDestroy_);
+        if (!config)
+            return {};
         std::unique_ptr<FcPattern, void (*)(FcPattern*)> pattern(patternCreate_(), patternDestroy_);
         std::unique_ptr<FcObjectSet, void (*)(FcObjectSet*)> objects(
             objectSetBuild_(FC_FAMILY, static_cast<char*>(nullptr)), objectSetDestroy_);
         if (!pattern || !objects)
             return {};
         std::unique_ptr<FcFontSet, void (*)(FcFontSet*)> set(
-            fontList_(nullptr, pattern.get(), objects.get()), fontSetDestroy_);
+            fontList_(config.get(), pattern.get(), objects.get()), fontSetDestroy_);
         std::vector<std::u16string> names;
         if (!set)
             return names;
@@ -49,8 +55,8 @@ private:
     bool load() {
         if (library_)
             return patternCreate_ != nullptr;
-        // Kept in memory after the close: fontconfig's configuration lives in its own globals
-        // and may be shared with other users of it in the process.
+        // Kept in memory after the close: other users of fontconfig in the process may have
+        // loaded it too.
         library_.reset(::dlopen("libfontconfig.so.1", RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE));
         if (!library_)
             return false;
@@ -59,13 +65,16 @@ private:
             symbol(objectSetDestroy_, "FcObjectSetDestroy") && symbol(fontList_, "FcFontList") &&
             symbol(fontSetDestroy_, "FcFontSetDestroy") &&
             symbol(patternGetString_, "FcPatternGetString") &&
-            symbol(patternCreate_, "FcPatternCreate"))
+            symbol(initLoadConfigAndFonts_, "FcInitLoadConfigAndFonts") &&
+            symbol(configDestroy_, "FcConfigDestroy") && symbol(patternCreate_, "FcPatternCreate"))
             return true;
         patternCreate_ = nullptr;
         return false;
     }
 
     std::unique_ptr<void, LibraryClose> library_;
+    FcConfig* (*initLoadConfigAndFonts_)() = nullptr;
+    void (*configDestroy_)(FcConfig*) = nullptr;
     FcPattern* (*patternCreate_)() = nullptr;
     void (*patternDestroy_)(FcPattern*) = nullptr;
     FcObjectSet* (*objectSetBuild_)(const char*, ...) = nullptr;
