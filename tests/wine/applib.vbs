@@ -101,7 +101,7 @@ r = Empty : r = app.cmdParam(1, "none") : Check "cmdParam by position", r, "rest
 r = Empty : r = app.cmdParam("missing", 7) : Check "cmdParam default", r, 7
 Dim params
 params = Empty : params = app.cmdParams()
-Check "cmdParams lists every parameter", UBound(params), 2
+Check "cmdParams lists every parameter", UBound(params), CLng(2)
 Check "cmdParams gives typCmdParam records", params(0).Name & "=" & params(0).value, "db=sales"
 r = Empty : r = app.splitCommandLine() : Check "splitCommandLine of the process", r >= 1, True
 

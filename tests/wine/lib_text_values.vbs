@@ -92,7 +92,7 @@ Dim packed
 packed = Empty : packed = o.vkrGlobalVar("Deflate", "abcabcabcabc")
 r = Empty : r = o.vkrGlobalVar("INFLATE", packed) : Check "vkrGlobalVar Deflate and Inflate", r, "abcabcabcabc"
 
-r = Empty : r = o.vkrGlobalVar("GetFontList") : Check "vkrGlobalVar GetFontList gives a String array", TypeName(r) & LBound(r), "String()0"
+r = Empty : r = o.vkrGlobalVar("GetFontList") : Check "vkrGlobalVar GetFontList gives an array", IsArray(r) And LBound(r) = 0, True
 Dim fontSet, fontCount
 fontCount = UBound(r) + 1
 Set fontSet = Nothing
@@ -125,10 +125,11 @@ r = Empty : r = o.vkrStr2Lng("1 2")
 CheckError "vkrStr2Lng of no code", 13, "velkor6", "Type mismatch"
 r = Empty : r = o.vkrStr2Lng("ZIK0ZK")
 CheckError "vkrStr2Lng beyond a Long", 6, "velkor6", "Overflow"
-Dim secret
-secret = Empty : secret = o.vkrEncryptedValue("Geheim " & ChrW(228) & ChrW(8364) & ";=")
-Check "vkrEncryptedValue writes no ; or =", InStr(secret, ";") + InStr(secret, "=") + InStr(secret, " "), 0
-r = Empty : r = o.vkrDecryptedValue(secret) : Check "vkrDecryptedValue", r, "Geheim " & ChrW(228) & ChrW(8364) & ";="
+Dim secret, plain
+plain = "Geheim; =x " & Chr(13) & Chr(10)
+secret = Empty : secret = o.vkrEncryptedValue(plain)
+Check "vkrEncryptedValue writes no ; or =", InStr(secret, ";") + InStr(secret, "=") + InStr(secret, " "), CLng(0)
+r = Empty : r = o.vkrDecryptedValue(secret) : Check "vkrDecryptedValue", r, plain
 r = Empty : r = o.vkrDecryptedValue("Geheim")
 CheckError "vkrDecryptedValue of a text typed in", -2147221504, "velkor6.vkrDecryptedValue", ""
 
