@@ -5,12 +5,15 @@
 
 #include "velkor6/export.h"
 #include "velkor6/module.h"
+#include "velkor6/records.h"
 #include "velkor6/variant.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velkor6 {
 
@@ -90,8 +93,25 @@ public:
     // language, as text; "" when there is none.
     std::u16string loadRes(std::int32_t lResID, std::u16string_view sResType);
 
+    // --- Command line --------------------------------------------------------------------
+    // Reads vCommandLine (the arguments alone, as VB's Command$ gives them) or, when it is
+    // missing, the process's own command line without the program's name, and keeps its
+    // parameters; returns their count. The other members read the process's command line
+    // first if nothing has been read yet.
+    std::int32_t splitCommandLine(const Variant& vCommandLine = Variant::missing());
+    // Whether a switch of that name (any letter case, with or without its "/", "-" or "--")
+    // was given.
+    bool cmdHasParam(std::u16string_view sName);
+    // Every parameter in command-line order; positional ones have the name "".
+    std::vector<typCmdParam> cmdParams();
+    // The value of the last switch named vName (a text), or of the vName-th positional
+    // parameter (a number, from 1); vDefault when there is none.
+    Variant cmdParam(const Variant& vName, const Variant& vDefault = u"");
+
 private:
     friend class lib;
+
+    const std::vector<typCmdParam>& commandParams();
 
     // Start-up for the host application: identity, settings file, log file, language,
     // KeepLogFiles, the emptied log and its first line.
@@ -111,6 +131,7 @@ private:
     std::shared_ptr<XmlDocument> resources_; // created and filled on first use
     std::u16string resourceLibrary_;         // found once, then kept
     std::unique_ptr<app::ProfileFile> profile_;
+    std::optional<std::vector<typCmdParam>> commandLine_; // read on first use
 };
 
 } // namespace velkor6

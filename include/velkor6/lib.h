@@ -12,6 +12,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velkor6 {
 
@@ -66,6 +67,28 @@ public:
     void vkrMidLet(std::u16string& Source, std::int32_t Start, std::int32_t length,
                    std::u16string_view value);
 
+    // --- Brackets and expressions ---------------------------------------------------------
+    std::u16string vkrExtractBrackets(std::u16string_view sSource,
+                                      std::u16string_view sBrackets = u"()",
+                                      std::int16_t iStart = 1);
+    std::u16string vkrExtractExpression(std::u16string_view sSource,
+                                        std::u16string_view sSeparators = u",",
+                                        std::u16string_view sBrackets = u"()|[]|{}",
+                                        bool bIgnoreCase = true, std::u16string* sRest = nullptr);
+    std::u16string vkrPhraseWithoutBrackets(std::u16string_view sSource,
+                                            std::u16string_view sBrackets = u"()");
+    bool vkrSeparateFunction(std::u16string_view sSource, std::u16string& sName,
+                             std::vector<std::u16string>& vArgs);
+    std::u16string vkrReplaceDecimalChars(std::u16string_view sSource,
+                                          std::u16string_view sDecimalChar = {});
+    std::u16string vkrResConv(std::u16string_view sText, bool bToXML = true);
+
+    // --- Number codes and value scrambling -----------------------------------------------
+    std::u16string vkrLng2Str(std::int32_t lValue);
+    std::int32_t vkrStr2Lng(std::u16string_view sValue);
+    std::u16string vkrEncryptedValue(std::u16string_view sValue);
+    std::u16string vkrDecryptedValue(std::u16string_view sValue);
+
     // --- Number parsing and conversion ---------------------------------------------------
     double vkrVal(std::u16string_view sSource);
     Variant vkrCVal(std::int32_t VarType, const Variant& SourceVal);
@@ -90,7 +113,12 @@ public:
 
     // --- Call by name and compression ----------------------------------------------------
     // "Deflate", "Inflate" or "InflateStrict" (any letter case) applied to the text vParam.
+    // Also "GetFontList": the installed font families, a sorted String array.
     Variant vkrGlobalVar(std::u16string_view sName, const Variant& vParam = Variant::missing());
+    // "GetFontList": the installed font families as a Collection keyed by name.
+    Variant vkrGlobalObj(std::u16string_view sName, const Variant& vParam = Variant::missing());
+    // "GetFontList": as vkrGlobalVar.
+    Variant vkrProperty(std::u16string_view sName);
 
     // --- Paths and files -----------------------------------------------------------------
     std::u16string vkrGetFullPath(std::u16string_view sPath, std::u16string_view sFile);

@@ -14,4 +14,10 @@ struct typFileInfo {
     std::u16string lpFullName; // as passed in
 };
 
+// One parameter of a command line: a switch with its value, or a positional word (Name "").
+struct typCmdParam {
+    std::u16string Name;
+    std::u16string value;
+};
+
 } // namespace velkor6

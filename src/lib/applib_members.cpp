@@ -12,6 +12,7 @@ const Table<applib>& applibMembers() {
         addLogMembers(t);
         addPathMembers(t);
         addLanguageMembers(t);
+        addCommandLineMembers(t);
         return t;
     }();
     return table;

@@ -1,11 +1,72 @@
 // Call by name and compression: the `lib` members and their rows in the member table.
+#include "core/collection.h"
+#include "core/text.h"
 #include "lib/lib_members.h"
 #include "lzw/global_var.h"
+#include "velkor6/vb_error.h"
+
+#include <algorithm>
 
 namespace velkor6 {
+namespace {
+
+bool isFontList(std::u16string_view name) {
+    return textEqual(name, u"GetFontList", Compare::Text);
+}
+
+[[noreturn]] void unknownName(std::u16string_view member) {
+    throw VbError(vberr::noSuchMember, VbError::describe(vberr::noSuchMember),
+                  u"velkor6." + std::u16string(member));
+}
+
+// Sorted as text, each family once; the vertical variants ("@" names) of East Asian fonts are
+// no families of their own.
+std::vector<std::u16string> fontFamilies(Module& m) {
+    std::vector<std::u16string> names = m.platform().fonts->families();
+    std::erase_if(names, [](const std::u16string& n) { return n.empty() || n.front() == u'@'; });
+    std::sort(names.begin(), names.end(), [](const auto& a, const auto& b) {
+        const int c = compareStrings(a, b, Compare::Text);
+        return c != 0 ? c < 0 : a < b;
+    });
+    names.erase(
+        std::unique(names.begin(), names.end(),
+                    [](const auto& a, const auto& b) { return textEqual(a, b, Compare::Text); }),
+        names.end());
+    return names;
+}
+
+Variant stringArray(std::vector<std::u16string> items) {
+    VariantArray a;
+    a.element = VarType::String;
+    for (auto& item : items)
+        a.items.emplace_back(std::move(item));
+    a.bounds = {ArrayBound{0, static_cast<std::int32_t>(a.items.size())}};
+    return Variant(std::move(a));
+}
+
+} // namespace
 
 Variant lib::vkrGlobalVar(std::u16string_view sName, const Variant& vParam) {
+    if (isFontList(sName))
+        return stringArray(fontFamilies(module()));
     return lzw::callGlobalVar(sName, vParam, locale());
+}
+
+Variant lib::vkrGlobalObj(std::u16string_view sName, const Variant&) {
+    if (!isFontList(sName))
+        unknownName(u"vkrGlobalObj");
+    auto fonts = std::make_shared<Collection>();
+    for (std::u16string& name : fontFamilies(module())) {
+        const Variant key(name);
+        fonts->add(Variant(std::move(name)), key);
+    }
+    return Variant(ObjectRef(std::move(fonts)));
+}
+
+Variant lib::vkrProperty(std::u16string_view sName) {
+    if (!isFontList(sName))
+        unknownName(u"vkrProperty");
+    return stringArray(fontFamilies(module()));
 }
 
 } // namespace velkor6
@@ -22,7 +83,8 @@ void addCallByNameMembers(Table<lib>& t) {
          T::Variant,
          [](lib& l, Args& a) -> Variant { return l.vkrGlobalVar(a.str(0), a[1]); },
          u"Calls the library function sName with the text vParam: \"Deflate\" compresses it, "
-         u"\"Inflate\" and \"InflateStrict\" decompress it. The name may be in any letter case.",
+         u"\"Inflate\" and \"InflateStrict\" decompress it; \"GetFontList\" gives the "
+         u"installed font families. The name may be in any letter case.",
          u"Compressed texts hold one character per byte (its ANSI code): 9-bit LZW codes, a "
          u"dictionary of 512 entries that starts over with a clear code whenever it is full, and "
          u"an end code. Characters without an ANSI code are compressed as \"?\".\n\n"
@@ -43,8 +105,40 @@ void addCallByNameMembers(Table<lib>& t) {
          u"\"InflateStrict\" also raises error 9 for a text \"Deflate\" cannot have written (a "
          u"code not yet defined, a full dictionary without a clear code, no end code). A damaged "
          u"text that would decompress to more than 2^30 characters raises error 14 (Out of "
-         u"string space). A name other than these three raises error 438 with the source "
-         u"\"velkor6.vkrGlobalVar\"; a missing vParam raises error 449."});
+         u"string space). A missing vParam raises error 449.\n\n"
+         u"\"GetFontList\" ignores vParam and returns the names of the installed font "
+         u"families as a String array (lower bound 0; UBound -1 when there are none), sorted "
+         u"as text (letter case ignored), each once; names beginning with \"@\" (vertical "
+         u"variants) are left out. On Windows the families EnumFontFamiliesExW lists for every "
+         u"character set on the screen; on Linux the first family name of each font fontconfig "
+         u"knows (an empty list when fontconfig is not installed).\n\n"
+         u"A name other than these four raises error 438 with the source "
+         u"\"velkor6.vkrGlobalVar\"."});
+    t.push_back(
+        {110,
+         u"vkrGlobalObj",
+         CallKind::Method,
+         {required(u"sName", T::String), optional(u"vParam", T::Variant, Variant::missing())},
+         T::Object,
+         [](lib& l, Args& a) -> Variant { return l.vkrGlobalObj(a.str(0), a[1]); },
+         u"Calls the library function sName that returns an object: \"GetFontList\" gives the "
+         u"installed font families as a Collection.",
+         u"The Collection holds the names of vkrGlobalVar(\"GetFontList\"), in the same order, "
+         u"each under its own name as key, so that oFonts(\"Arial\") is \"Arial\" in any "
+         u"letter case, oFonts(1) is the first and a family that is not installed raises error "
+         u"5 from the Collection. vParam is not used. The name may be in any letter case; any "
+         u"other name raises error 438 with the source \"velkor6.vkrGlobalObj\"."});
+    t.push_back(
+        {111,
+         u"vkrProperty",
+         CallKind::PropertyGet,
+         {required(u"sName", T::String)},
+         T::Variant,
+         [](lib& l, Args& a) -> Variant { return l.vkrProperty(a.str(0)); },
+         u"Reads the library property sName: \"GetFontList\" gives the installed font families "
+         u"as a String array.",
+         u"The same array as vkrGlobalVar(\"GetFontList\"). The name may be in any letter case; "
+         u"any other name raises error 438 with the source \"velkor6.vkrProperty\"."});
 }
 
 } // namespace velkor6::dispatch

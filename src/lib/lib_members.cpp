@@ -15,6 +15,8 @@ const Table<lib>& libMembers() {
         addResourceMembers(t);
         addTextFileMembers(t);
         addDialogMembers(t);
+        addBracketMembers(t);
+        addValueCodeMembers(t);
         return t;
     }();
     return table;

@@ -47,6 +47,35 @@ status error-exit 1 "$bin" call vkrNoSuchThing
 status usage-exit 2 "$bin" frobnicate
 status usage-call 2 "$bin" call
 
+# Command line, brackets, number codes, scrambling and the font list.
+check cmd-params $'2\nsales\nreport.txt\nnone\nTrue\nFalse' "$bin" --app demo <<<'splitCommandLine("/db=sales -v report.txt")
+cmdParam("DB")
+cmdParam("v")
+cmdParam(1, "none")
+cmdHasParam("-V")
+cmdHasParam("report.txt")'
+check cmd-quoting $'3\nC:\\My Files\\\nsay "hi"' "$bin" --app demo <<<'splitCommandLine("/out=""C:\My Files\\"" /say ""say \""hi\"""" x")
+cmdParam("out")
+cmdParam("say")'
+check separate-function $'True\nsName = "IIf"\nvArgs = Array("a > 1", "\'x, y\'", "Max(b, c)")' \
+    "$bin" call vkrSeparateFunction "IIf(a > 1, 'x, y', Max(b, c))" '""' Empty
+check extract-expression $'f(a, b)\nsRest = "\'x,y\', 3"' \
+    "$bin" call vkrExtractExpression "f(a, b), 'x,y', 3"
+check extract-brackets 'a * (b + 1)' "$bin" call vkrExtractBrackets "Sum(a * (b + 1)) + c"
+check decimal-chars "Preis > 1234.5 AND c = '2,5'" \
+    "$bin" call --locale de-DE vkrReplaceDecimalChars "Preis > 1.234,5 AND c = '2,5'"
+check res-conv '&amp;Ja &lt;1&gt;' "$bin" call vkrResConv '&Ja <1>'
+check lng2str '-ZIK0ZK' "$bin" call vkrLng2Str -2147483648
+check str2lng '2147483647&' "$bin" call --typed vkrStr2Lng zik0zj
+check str2lng-overflow 'error 6: Overflow (velkor6)' "$bin" call vkrStr2Lng ZIK0ZK
+check scramble 'Geheim' "$bin" call vkrDecryptedValue "$("$bin" call vkrEncryptedValue Geheim)"
+check unscramble-bad \
+    "error -2147221504: The text is not a value written by vkrEncryptedValue. (velkor6.vkrDecryptedValue)" \
+    "$bin" call vkrDecryptedValue "Geheim"
+check font-unknown 'error 438: Object doesn'"'"'t support this property or method (velkor6.vkrGlobalObj)' \
+    "$bin" call vkrGlobalObj FadeIn
+status font-list 0 "$bin" call vkrGlobalVar GetFontList
+
 # Usage errors: exit 2 and a message naming the problem, before any member runs.
 check version-word 'velkor6: --app-version x: '"'"'x'"'"' is no number from 0 to 32767' \
     "$bin" --app demo --app-version x call appName

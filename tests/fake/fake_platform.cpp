@@ -27,6 +27,7 @@ std::unique_ptr<Platform> makePlatform() {
     p->registry = std::make_unique<MemoryRegistry>();
     p->fileStore = std::make_unique<FakeFileStore>(static_cast<FakeFileSystem&>(*p->fileSystem));
     p->windowManager = std::make_unique<FakeWindowManager>();
+    p->fonts = std::make_unique<FakeFonts>();
     // Parsing touches nothing of the system: the tests use the real parser (MSXML on Windows).
 #ifdef _WIN32
     p->xml = win32::createXmlService();
@@ -54,6 +55,6 @@ FakePlatform::FakePlatform(std::unique_ptr<Platform> p, const Locale& locale)
       ui(as<FakeUi>(p->ui)), dialogs(as<FakeDialogHost>(p->dialogs)),
       shell(as<FakeShell>(p->shell)), registry(as<MemoryRegistry>(p->registry)),
       fileStore(as<FakeFileStore>(p->fileStore)), windows(as<FakeWindowManager>(p->windowManager)),
-      module(std::make_shared<Module>(std::move(p), locale)) {}
+      fonts(as<FakeFonts>(p->fonts)), module(std::make_shared<Module>(std::move(p), locale)) {}
 
 } // namespace velkor6::fake

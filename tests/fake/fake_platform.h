@@ -28,6 +28,7 @@ struct FakePlatform {
     MemoryRegistry& registry; // empty until a test loads a script
     FakeFileStore& fileStore;
     FakeWindowManager& windows;
+    FakeFonts& fonts;
     std::shared_ptr<Module> module;
 
 private:

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "velkor6/platform/environment.h"
+#include "velkor6/platform/fonts.h"
 #include "velkor6/platform/input_state.h"
 #include "velkor6/platform/shell.h"
 #include "velkor6/platform/ui.h"
@@ -22,16 +23,28 @@ public:
     std::u16string specialFolder(std::int32_t csidl) override;
     bool userIsAdmin() override { return admin_; }
     std::optional<std::u16string> variable(std::u16string_view name) override;
+    std::u16string commandLine() override { return commandLine_; }
 
     void setSpecialFolder(std::int32_t csidl, std::u16string path) { folders_[csidl] = path; }
     void setAdmin(bool admin) { admin_ = admin; }
     void setVariable(std::u16string name, std::u16string value);
+    void setCommandLine(std::u16string line) { commandLine_ = std::move(line); }
     const std::map<std::int32_t, std::u16string>& specialFolders() const { return folders_; }
 
 private:
     std::map<std::int32_t, std::u16string> folders_;
     std::map<std::u16string, std::u16string> variables_; // names upper-cased
+    std::u16string commandLine_ = u"\"C:\\Program Files\\Test\\test.exe\"";
     bool admin_ = false;
+};
+
+class FakeFonts final : public Fonts {
+public:
+    std::vector<std::u16string> families() override { return families_; }
+    void setFamilies(std::vector<std::u16string> names) { families_ = std::move(names); }
+
+private:
+    std::vector<std::u16string> families_;
 };
 
 class FakeInput final : public InputState {

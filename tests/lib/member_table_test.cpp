@@ -87,9 +87,16 @@ std::map<std::string, std::vector<CppParam>> declarations(const std::string& hea
         std::vector<CppParam> params;
         std::string list = (*it)[2];
         int depth = 0;
+        bool quoted = false; // a comma inside a default text separates nothing
         std::string current;
         list += ',';
         for (const char c : list) {
+            if (c == '"')
+                quoted = !quoted;
+            if (quoted) {
+                current += c;
+                continue;
+            }
             if (c == '(' || c == '{' || c == '<')
                 ++depth;
             if (c == ')' || c == '}' || c == '>')

@@ -1,11 +1,15 @@
 // The POSIX services over a real temporary folder, and their pure parts (mount table, XDG).
+#include "applib/command_line.h"
 #include "core/date.h"
 #include "fake/temp_folder.h"
+#include "platform/posix/command_words.h"
 #include "platform/posix/mounts.h"
 #include "platform/posix/services.h"
+#include "platform/posix/utf8_path.h"
 #include "platform/posix/xdg_folders.h"
 #include "velkor6/enums.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <thread>
@@ -164,6 +168,52 @@ TEST(PosixShell, StartsWithoutWaitingAndReportsMissingPrograms) {
     for (int i = 0; i < 200 && !std::filesystem::exists(marker); ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     EXPECT_TRUE(std::filesystem::exists(marker));
+}
+
+} // namespace
+} // namespace velkor6::posix
+
+namespace velkor6::posix {
+namespace {
+
+TEST(PosixEnvironment, CommandLineReadsBackAsTheProcessArguments) {
+    std::ifstream in("/proc/self/cmdline", std::ios::binary);
+    std::string raw((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    std::vector<std::u16string> expected;
+    for (std::size_t start = 0, end; start < raw.size(); start = end + 1) {
+        end = raw.find('\0', start);
+        if (end == std::string::npos)
+            end = raw.size();
+        expected.push_back(fromNative(raw.substr(start, end - start)));
+    }
+    ASSERT_FALSE(expected.empty());
+    expected.erase(expected.begin()); // the program
+    std::vector<std::u16string> words;
+    for (auto& w : app::splitCommandWords(createEnvironment()->commandLine(), true))
+        words.push_back(w.text);
+    EXPECT_EQ(words, expected);
+}
+
+TEST(PosixEnvironment, ArgumentsJoinIntoAWindowsCommandLine) {
+    const std::vector<std::u16string> args = {
+        u"/usr/bin/my prog",    u"a b",      u"",  u"x\"y", u"back\\",
+        u"back\\\"q",           u"/out=a b", u"-", u"-\"",  u"tab\there",
+        u"\\\\server\\share\\", u"plain"};
+    const std::u16string line = windowsCommandLine(args);
+    const auto words = app::splitCommandWords(line, true);
+    ASSERT_EQ(words.size(), args.size() - 1) << std::string(line.begin(), line.end());
+    for (std::size_t i = 0; i < words.size(); ++i)
+        EXPECT_EQ(words[i].text, args[i + 1]);
+    EXPECT_FALSE(words[5].quotedStart); // "/out=a b" is still a switch
+    EXPECT_EQ(line.substr(line.size() - 6), u" plain");
+}
+
+TEST(PosixFonts, FontconfigListsTheInstalledFamilies) {
+    const std::vector<std::u16string> families = createFonts()->families();
+    if (families.empty())
+        GTEST_SKIP() << "fontconfig knows no fonts on this machine";
+    for (const auto& name : families)
+        EXPECT_FALSE(name.empty());
 }
 
 } // namespace

@@ -93,6 +93,18 @@ app.language = 2 : r = Empty : r = app.language : Check "language let", r, CInt(
 app.editINIFile : Check "editINIFile", Err.Number, CLng(0)
 app.editLOGFile : Check "editLOGFile", Err.Number, CLng(0)
 
+' The command line: a text given, and the process's own (cscript's).
+r = Empty : r = app.splitCommandLine("/db=sales -v ""C:\My Files\a.txt"" rest") : Check "splitCommandLine", r, CLng(3)
+r = Empty : r = app.cmdHasParam("-DB") : Check "cmdHasParam", r, True
+r = Empty : r = app.cmdParam("V") : Check "cmdParam", r, "C:\My Files\a.txt"
+r = Empty : r = app.cmdParam(1, "none") : Check "cmdParam by position", r, "rest"
+r = Empty : r = app.cmdParam("missing", 7) : Check "cmdParam default", r, 7
+Dim params
+params = Empty : params = app.cmdParams()
+Check "cmdParams lists every parameter", UBound(params), CLng(2)
+Check "cmdParams gives typCmdParam records", params(0).Name & "=" & params(0).value, "db=sales"
+r = Empty : r = app.splitCommandLine() : Check "splitCommandLine of the process", r >= 1, True
+
 ' The class on its own, as CreateObject makes it.
 Dim bare
 Set bare = Nothing

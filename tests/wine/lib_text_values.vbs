@@ -92,6 +92,47 @@ Dim packed
 packed = Empty : packed = o.vkrGlobalVar("Deflate", "abcabcabcabc")
 r = Empty : r = o.vkrGlobalVar("INFLATE", packed) : Check "vkrGlobalVar Deflate and Inflate", r, "abcabcabcabc"
 
+r = Empty : r = o.vkrGlobalVar("GetFontList") : Check "vkrGlobalVar GetFontList gives an array", IsArray(r) And LBound(r) = 0, True
+Dim fontSet, fontCount
+fontCount = UBound(r) + 1
+Set fontSet = Nothing
+Set fontSet = o.vkrGlobalObj("GetFontList") : Check "vkrGlobalObj GetFontList gives a Collection", fontSet.Count, fontCount
+r = Empty : r = o.vkrProperty("getfontlist") : Check "vkrProperty GetFontList", UBound(r) + 1, fontCount
+Set fontSet = o.vkrGlobalObj("Deflate")
+CheckError "vkrGlobalObj of a name it does not know", 438, "velkor6.vkrGlobalObj", ""
+
+' --- Brackets and expressions --------------------------------------------------------------
+Dim rest, fname, fargs
+r = Empty : r = o.vkrExtractBrackets("Sum(a * (b + 1)) + c") : Check "vkrExtractBrackets", r, "a * (b + 1)"
+r = Empty : r = o.vkrExtractBrackets("(a)", "(", 1)
+CheckError "vkrExtractBrackets with a broken pair", 5, "velkor6", ""
+rest = ""
+r = Empty : r = o.vkrExtractExpression("f(a, b), 'x,y', 3", ",", "()|[]|{}", True, rest) : Check "vkrExtractExpression", r, "f(a, b)"
+Check "vkrExtractExpression gives the rest", rest, "'x,y', 3"
+r = Empty : r = o.vkrPhraseWithoutBrackets("Customer (inactive) list") : Check "vkrPhraseWithoutBrackets", r, "Customer list"
+fname = "" : fargs = Empty
+r = Empty : r = o.vkrSeparateFunction("IIf(a > 1, 'x, y', Max(b, c))", fname, fargs) : Check "vkrSeparateFunction", r, True
+Check "vkrSeparateFunction gives the name", fname, "IIf"
+Check "vkrSeparateFunction gives the arguments", fargs, Array("a > 1", "'x, y'", "Max(b, c)")
+r = Empty : r = o.vkrReplaceDecimalChars("x = 1.234,5 AND c = '2,5'", ",") : Check "vkrReplaceDecimalChars", r, "x = 1234.5 AND c = '2,5'"
+r = Empty : r = o.vkrResConv("&Ja <1>") : Check "vkrResConv to XML", r, "&amp;Ja &lt;1&gt;"
+r = Empty : r = o.vkrResConv("&amp;Ja&#10;", False) : Check "vkrResConv back", r, "&Ja" & vbLf
+
+' --- Number codes and value scrambling -----------------------------------------------------
+r = Empty : r = o.vkrLng2Str(-2147483648) : Check "vkrLng2Str of the smallest Long", r, "-ZIK0ZK"
+r = Empty : r = o.vkrStr2Lng("-zik0zk") : Check "vkrStr2Lng", r, CLng("-2147483648")
+r = Empty : r = o.vkrStr2Lng("1 2")
+CheckError "vkrStr2Lng of no code", 13, "velkor6", "Type mismatch"
+r = Empty : r = o.vkrStr2Lng("ZIK0ZK")
+CheckError "vkrStr2Lng beyond a Long", 6, "velkor6", "Overflow"
+Dim secret, plain
+plain = "Geheim; =x " & Chr(13) & Chr(10)
+secret = Empty : secret = o.vkrEncryptedValue(plain)
+Check "vkrEncryptedValue writes no ; or =", InStr(secret, ";") + InStr(secret, "=") + InStr(secret, " "), CLng(0)
+r = Empty : r = o.vkrDecryptedValue(secret) : Check "vkrDecryptedValue", r, plain
+r = Empty : r = o.vkrDecryptedValue("Geheim")
+CheckError "vkrDecryptedValue of a text typed in", -2147221504, "velkor6.vkrDecryptedValue", ""
+
 ' --- How calls cross the boundary ------------------------------------------------------------
 r = Empty : r = o.vkrNoSuchMember(1)
 CheckError "an unknown member", 438, "Microsoft VBScript runtime error", ""

@@ -19,6 +19,9 @@ public:
     // Whether the process may administer the system.
     virtual bool userIsAdmin() = 0;
     virtual std::optional<std::u16string> variable(std::u16string_view name) = 0;
+    // The process's command line as a Windows program sees it: the program and its arguments in
+    // one text, quoted by the Windows rules.
+    virtual std::u16string commandLine() = 0;
 };
 
 } // namespace velkor6

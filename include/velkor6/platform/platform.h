@@ -9,6 +9,7 @@
 #include "velkor6/platform/environment.h"
 #include "velkor6/platform/file_store.h"
 #include "velkor6/platform/file_system.h"
+#include "velkor6/platform/fonts.h"
 #include "velkor6/platform/input_state.h"
 #include "velkor6/platform/registry.h"
 #include "velkor6/platform/settings_files.h"
@@ -35,6 +36,7 @@ struct VELKOR6_API Platform {
     std::unique_ptr<FileStore> fileStore;
     std::unique_ptr<WindowManager> windowManager;
     std::unique_ptr<XmlService> xml;
+    std::unique_ptr<Fonts> fonts;
     // The system's own settings-file functions; null where it has none, and the library reads
     // and writes the files itself.
     std::unique_ptr<SettingsFiles> settingsFiles;

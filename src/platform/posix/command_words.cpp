@@ -72,4 +72,48 @@ std::optional<std::vector<std::string>> commandWithFile(std::string_view command
     return words;
 }
 
+namespace {
+
+// One argument written so that the Windows rules read it back unchanged.
+void appendQuoted(std::u16string& line, std::u16string_view arg) {
+    if (!arg.empty() && arg.find_first_of(u" \t\"") == std::u16string_view::npos) {
+        line += arg;
+        return;
+    }
+    // A switch stays one: its prefix stands before the quoted part.
+    if (arg.starts_with(u'/') || arg.starts_with(u'-')) {
+        line += arg.front();
+        arg.remove_prefix(1);
+    }
+    line += u'"';
+    std::size_t backslashes = 0;
+    for (const char16_t c : arg) {
+        if (c == u'\\') {
+            ++backslashes;
+            continue;
+        }
+        // Backslashes before a quote double, and the quote gets one of its own.
+        line.append(c == u'"' ? 2 * backslashes + 1 : backslashes, u'\\');
+        backslashes = 0;
+        line += c;
+    }
+    line.append(2 * backslashes, u'\\');
+    line += u'"';
+}
+
+} // namespace
+
+std::u16string windowsCommandLine(const std::vector<std::u16string>& args) {
+    std::u16string line;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        if (i > 0)
+            line += u' ';
+        if (i == 0 && args[i].find(u'"') == std::u16string::npos)
+            line += u'"' + args[i] + u'"';
+        else
+            appendQuoted(line, args[i]);
+    }
+    return line;
+}
+
 } // namespace velkor6::posix

@@ -19,4 +19,8 @@ std::optional<std::vector<std::string>> splitCommandWords(std::string_view line)
 std::optional<std::vector<std::string>> commandWithFile(std::string_view command,
                                                         std::string_view file);
 
+// The arguments as one command line that a Windows program reads back into the same words; the
+// first is the program, whose name is read without escapes.
+std::u16string windowsCommandLine(const std::vector<std::u16string>& args);
+
 } // namespace velkor6::posix

@@ -1,4 +1,5 @@
 #include "core/text.h"
+#include "platform/posix/command_words.h"
 #include "platform/posix/services.h"
 #include "platform/posix/utf8_path.h"
 #include "platform/posix/xdg_folders.h"
@@ -41,6 +42,19 @@ public:
         if (!value)
             return std::nullopt;
         return fromNative(*value);
+    }
+
+    std::u16string commandLine() override {
+        const std::string raw = readText("/proc/self/cmdline").value_or(std::string());
+        std::vector<std::u16string> args;
+        for (std::size_t start = 0; start < raw.size();) {
+            std::size_t end = raw.find('\0', start);
+            if (end == std::string::npos)
+                end = raw.size();
+            args.push_back(fromNative(std::string_view(raw).substr(start, end - start)));
+            start = end + 1;
+        }
+        return windowsCommandLine(args);
     }
 };
 

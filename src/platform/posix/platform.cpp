@@ -21,6 +21,7 @@ std::unique_ptr<Platform> Platform::createNative() {
     p->fileStore = posix::createFileStore();
     p->windowManager = posix::createWindowManager();
     p->xml = posix::createXmlService();
+    p->fonts = posix::createFonts();
     p->libraryFolder = posix::libraryFolder();
     return p;
 }

@@ -14,5 +14,6 @@ std::unique_ptr<InputState> createInputState();
 // Serving events runs the dialog host's toolkit once it is loaded.
 std::unique_ptr<UserInterface> createUserInterface(DialogHost& dialogs);
 std::unique_ptr<Shell> createShell();
+std::unique_ptr<Fonts> createFonts();
 
 } // namespace velkor6::posix

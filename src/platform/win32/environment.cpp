@@ -37,6 +37,11 @@ public:
         return true;
     }
 
+    std::u16string commandLine() override {
+        const wchar_t* line = GetCommandLineW();
+        return line == nullptr ? std::u16string() : fromWide(line);
+    }
+
     std::optional<std::u16string> variable(std::u16string_view name) override {
         const std::wstring key = wide(name);
         std::wstring value(256, L'\0');

@@ -40,6 +40,7 @@ std::unique_ptr<Platform> Platform::createNative() {
     p->fileStore = win32::createFileStore();
     p->windowManager = win32::createWindowManager();
     p->xml = win32::createXmlService();
+    p->fonts = win32::createFonts();
     p->settingsFiles = win32::createSettingsFiles();
     p->libraryFolder = win32::libraryFolder();
     return p;

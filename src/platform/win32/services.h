@@ -16,6 +16,7 @@ std::unique_ptr<Environment> createEnvironment();
 std::unique_ptr<InputState> createInputState();
 std::unique_ptr<UserInterface> createUserInterface();
 std::unique_ptr<Shell> createShell();
+std::unique_ptr<Fonts> createFonts();
 std::unique_ptr<Registry> createRegistry();
 std::unique_ptr<FileStore> createFileStore();
 std::unique_ptr<WindowManager> createWindowManager();
