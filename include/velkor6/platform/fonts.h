@@ -1,12 +1,14 @@
 // The fonts installed on the system.
 #pragma once
 
+#include "velkor6/export.h"
+
 #include <string>
 #include <vector>
 
 namespace velkor6 {
 
-class Fonts {
+class VELKOR6_API Fonts {
 public:
     virtual ~Fonts() = default;
     // The names of the installed font families, in no particular order; a name may repeat.
