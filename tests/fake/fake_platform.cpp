@@ -22,6 +22,7 @@ std::unique_ptr<Platform> makePlatform() {
     p->environment = std::move(environment);
     p->input = std::make_unique<FakeInput>();
     p->ui = std::make_unique<FakeUi>();
+    p->dialogs = std::make_unique<FakeDialogHost>();
     p->shell = std::make_unique<FakeShell>();
     p->registry = std::make_unique<MemoryRegistry>();
     p->fileStore = std::make_unique<FakeFileStore>(static_cast<FakeFileSystem&>(*p->fileSystem));
@@ -50,9 +51,9 @@ FakePlatform::FakePlatform(const Locale& locale) : FakePlatform(makePlatform(), 
 FakePlatform::FakePlatform(std::unique_ptr<Platform> p, const Locale& locale)
     : clock(as<FakeClock>(p->clock)), files(as<FakeFileSystem>(p->fileSystem)),
       environment(as<FakeEnvironment>(p->environment)), input(as<FakeInput>(p->input)),
-      ui(as<FakeUi>(p->ui)), shell(as<FakeShell>(p->shell)),
-      registry(as<MemoryRegistry>(p->registry)), fileStore(as<FakeFileStore>(p->fileStore)),
-      windows(as<FakeWindowManager>(p->windowManager)),
+      ui(as<FakeUi>(p->ui)), dialogs(as<FakeDialogHost>(p->dialogs)),
+      shell(as<FakeShell>(p->shell)), registry(as<MemoryRegistry>(p->registry)),
+      fileStore(as<FakeFileStore>(p->fileStore)), windows(as<FakeWindowManager>(p->windowManager)),
       module(std::make_shared<Module>(std::move(p), locale)) {}
 
 } // namespace velkor6::fake

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "fake/fake_clock.h"
+#include "fake/fake_dialog_host.h"
 #include "fake/fake_file_store.h"
 #include "fake/fake_file_system.h"
 #include "fake/fake_services.h"
@@ -22,6 +23,7 @@ struct FakePlatform {
     FakeEnvironment& environment;
     FakeInput& input;
     FakeUi& ui;
+    FakeDialogHost& dialogs;
     FakeShell& shell;
     MemoryRegistry& registry; // empty until a test loads a script
     FakeFileStore& fileStore;

@@ -7,7 +7,7 @@ cd "$1"
 rank() {
     case $1 in
     core) echo 0 ;;
-    platform) echo 1 ;;
+    platform | ui) echo 1 ;;
     text | values | files | lzw | applib | controls | resources | dialogs | windows) echo 2 ;;
     lib) echo 3 ;;
     com | tools) echo 4 ;;

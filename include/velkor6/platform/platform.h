@@ -4,6 +4,7 @@
 
 #include "velkor6/locale.h"
 #include "velkor6/platform/clock.h"
+#include "velkor6/platform/dialog_host.h"
 #include "velkor6/platform/environment.h"
 #include "velkor6/platform/file_store.h"
 #include "velkor6/platform/file_system.h"
@@ -26,6 +27,8 @@ struct Platform {
     std::unique_ptr<Environment> environment;
     std::unique_ptr<InputState> input;
     std::unique_ptr<UserInterface> ui;
+    // Draws the library's own dialogs and the status window.
+    std::unique_ptr<DialogHost> dialogs;
     std::unique_ptr<Shell> shell;
     std::unique_ptr<Registry> registry;
     std::unique_ptr<FileStore> fileStore;

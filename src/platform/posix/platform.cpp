@@ -4,6 +4,7 @@
 #include "platform/posix/services.h"
 #include "platform/posix/window_manager.h"
 #include "platform/posix/xml_service.h"
+#include "ui/dialog_host_choice.h"
 
 namespace velkor6 {
 
@@ -14,6 +15,7 @@ std::unique_ptr<Platform> Platform::createNative() {
     p->environment = posix::createEnvironment();
     p->input = posix::createInputState();
     p->ui = posix::createUserInterface();
+    p->dialogs = ui::createDialogHost();
     p->shell = posix::createShell();
     p->registry = posix::createRegistry();
     p->fileStore = posix::createFileStore();

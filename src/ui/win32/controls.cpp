@@ -69,7 +69,8 @@ HWND makeButton(HWND parent, const RECT& place, std::wstring_view caption, HFONT
 HWND makeEdit(HWND parent, const RECT& place, std::wstring_view text, HFONT font, int id,
               bool multiLine, wchar_t passwordChar, int maxLength) {
     DWORD style = WS_TABSTOP | WS_BORDER | ES_LEFT;
-    style |= multiLine ? ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL : ES_AUTOHSCROLL;
+    style |=
+        multiLine ? ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL : ES_AUTOHSCROLL;
     if (passwordChar != 0)
         style |= ES_PASSWORD;
     const HWND control = makeChild(L"EDIT", parent, place, text, style, 0, id, font);
@@ -87,9 +88,9 @@ HWND makeProgressBar(HWND parent, const RECT& place) {
 }
 
 void addToolTip(HWND parent, HWND control, const std::wstring& text) {
-    const HWND tip = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP,
-                                     CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
-                                     parent, nullptr, moduleInstance(), nullptr);
+    const HWND tip = CreateWindowExW(
+        WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, CW_USEDEFAULT,
+        CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, parent, nullptr, moduleInstance(), nullptr);
     if (tip == nullptr)
         return;
     TOOLINFOW tool{};

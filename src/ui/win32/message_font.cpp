@@ -25,8 +25,8 @@ Font messageFont(int pointSize, bool bold, const std::wstring& face) {
 
 SIZE measureText(HFONT font, std::wstring_view text, int wrapWidth) {
     const HDC screen = GetDC(nullptr);
-    const HGDIOBJ previous = SelectObject(screen, font != nullptr ? static_cast<HGDIOBJ>(font)
-                                                                  : GetStockObject(DEFAULT_GUI_FONT));
+    const HGDIOBJ previous = SelectObject(
+        screen, font != nullptr ? static_cast<HGDIOBJ>(font) : GetStockObject(DEFAULT_GUI_FONT));
     RECT r{0, 0, wrapWidth > 0 ? wrapWidth : 0, 0};
     UINT format = DT_CALCRECT | DT_NOPREFIX | DT_EXPANDTABS;
     if (wrapWidth > 0)

@@ -38,8 +38,8 @@ DialogEvent ModalForm::run(HWND owner) {
         return none;
     }
     // The first keys go where a user would type: into the field, or else to the default button.
-    const bool defaultShown = form_.defaultButton >= 0 &&
-                              static_cast<std::size_t>(form_.defaultButton) < buttons_.size();
+    const bool defaultShown =
+        form_.defaultButton >= 0 && static_cast<std::size_t>(form_.defaultButton) < buttons_.size();
     const HWND firstFocus = field_ != nullptr && IsWindowEnabled(field_) != FALSE ? field_
                             : defaultShown ? buttons_[static_cast<std::size_t>(form_.defaultButton)]
                                            : nullptr;
@@ -83,8 +83,8 @@ bool ModalForm::build() {
                                        colourOf(text.font.color));
         }
         if (control == nullptr) {
-            control = makeLabel(form, rectOf(text.rect), wide(text.rich ? text.plainText : text.text),
-                                font, text.wordWrap);
+            control = makeLabel(form, rectOf(text.rect),
+                                wide(text.rich ? text.plainText : text.text), font, text.wordWrap);
             colours_.emplace_back(control, colourOf(text.font.color));
         }
     }

@@ -50,8 +50,8 @@ bool StatusForm::show(const StatusWindow& window) {
     if (velkor6::win32::fromWide(windowText(form)) != window.title)
         SetWindowTextW(form, wide(window.title).c_str());
 
-    const SIZE outer = outerSize(window.clientSize.width, window.clientSize.height, statusStyle,
-                                 statusExStyle);
+    const SIZE outer =
+        outerSize(window.clientSize.width, window.clientSize.height, statusStyle, statusExStyle);
     SetWindowPos(form, nullptr, 0, 0, outer.cx, outer.cy,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 

@@ -8,9 +8,8 @@
 #include "ui/win32/form_window.h"
 #include "ui/win32/win32_host.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
+#include <gtest/gtest.h>
 #include <string>
 #include <thread>
 #include <vector>
@@ -201,7 +200,8 @@ TEST(Win32Host, StatusWindowComesGoesAndKeepsItsWindow) {
 TEST(Win32Host, MeasuresLabelsOnOneLineOrWrapped) {
     const auto host = createDialogHost();
     const DialogFont font;
-    const std::u16string text = u"Die Datei konnte nicht gespeichert werden, weil sie gesperrt ist.";
+    const std::u16string text =
+        u"Die Datei konnte nicht gespeichert werden, weil sie gesperrt ist.";
     const PixelSize line = host->measureText(text, font, 0);
     const PixelSize wrapped = host->measureText(text, font, line.width / 3);
     EXPECT_GT(line.width, 0);
