@@ -2,15 +2,15 @@
 // one src/lib file per family; through that table the members are reachable by name (CLI, COM).
 #pragma once
 
-#include <cstdint>
-#include <memory>
-#include <string>
-#include <string_view>
-
 #include "velkor6/applib.h"
 #include "velkor6/module.h"
 #include "velkor6/records.h"
 #include "velkor6/variant.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
 
 namespace velkor6 {
 
@@ -61,8 +61,7 @@ public:
     bool vkrIsInSigns(std::u16string_view sSource, std::u16string_view sSigns, std::int16_t iStart,
                       std::int16_t iLen);
     bool vkrIsNumericWord(std::u16string_view sSource, std::int16_t iStart, std::int16_t iLen);
-    std::u16string vkrMid(std::u16string_view Source, std::int32_t Start,
-                          std::int32_t length = -1);
+    std::u16string vkrMid(std::u16string_view Source, std::int32_t Start, std::int32_t length = -1);
     void vkrMidLet(std::u16string& Source, std::int32_t Start, std::int32_t length,
                    std::u16string_view value);
 
@@ -138,7 +137,8 @@ public:
                                 std::u16string_view sValueName,
                                 std::u16string_view sDefaultValue = {});
     std::int32_t regSubKeyCount(std::int32_t lRegKey, std::u16string_view sRegSubKey);
-    // Fills sKeys with the names of the direct sub-keys; leaves it alone when the key does not open.
+    // Fills sKeys with the names of the direct sub-keys; leaves it alone when the key does not
+    // open.
     void regFindKeys(std::int32_t lRegKey, std::u16string_view sRegSubKey, VariantArray& sKeys);
 
     // --- XML resources and resource libraries -----------------------------------------------
@@ -156,6 +156,51 @@ public:
                                     std::u16string_view sInclNoFormat = {});
     // The string lResID of the string tables of oApp's resource library for its language.
     std::u16string vkrRes(applib& oApp, std::int32_t lResID);
+
+    // --- Dialogs -----------------------------------------------------------------------------
+    // The library's own boxes, captioned in the current language; results are the message-box
+    // codes (1 OK ... 7 No) and 0 when the box was closed through its close box.
+    std::int32_t vkrMsgBox(std::u16string_view Prompt, std::u16string_view Detail,
+                           std::int32_t Buttons = 0, std::u16string_view Title = {},
+                           std::int32_t PromptColor = 0, std::int16_t FontSize = 10,
+                           bool FontBold = true);
+    // sPrompt is an RTF fragment, optionally followed by "|width|height" in twips.
+    std::int32_t vkrExtMsgBox(std::u16string_view sPrompt, std::int32_t lButtons = 0,
+                              std::u16string_view sTitle = {}, std::int32_t lWidthInTwips = 0,
+                              std::int32_t lHeightInTwips = 0);
+    bool vkrAsk(const Variant& sQuestion, const Variant& vTitle = Variant::missing(),
+                bool bDefaultNo = false);
+    bool vkrExtAsk(const Variant& sQuestion, std::u16string_view sTitle = {},
+                   std::int32_t lWidthInTwips = 0, std::int32_t lHeightInTwips = 0,
+                   bool bDefaultNo = false);
+    void vkrErrorMsg(std::int32_t lError, std::u16string_view sErrorDesc,
+                     std::u16string_view sErrorSource);
+    // The 1-based number of the pressed button, 0 for Esc.
+    std::int16_t vkrGetAnswer(std::u16string_view Prompt, std::u16string_view Detail,
+                              std::u16string_view Title, const VariantArray& Buttons);
+    // 1 with the typed text in value, or 2 with value unchanged. "##|" in front of the prompt
+    // limits the input to ## characters.
+    std::int32_t vkrInputValue(std::u16string_view Prompt, std::u16string_view Title,
+                               std::u16string& value, std::u16string_view Default = {});
+    std::int32_t vkrInputCode(std::u16string_view Prompt, std::u16string_view Title,
+                              std::u16string& value, std::u16string_view Default = {});
+    // Raises error 5 for a source that is not a text box, combo box, node, list item or list box.
+    void vkrZoomTextBox(applib& oApp, const ObjectRef& Source, std::u16string_view Description = {},
+                        bool IgnoreAttributes = false);
+    // The status window; a missing argument leaves its part of the window as it stands.
+    void vkrSendMessage(const Variant& Prompt = Variant::missing(),
+                        const Variant& Title = Variant::missing(),
+                        const Variant& ShowCounter = Variant::missing(),
+                        const Variant& CurCount = Variant::missing(),
+                        const Variant& MaxCount = Variant::missing(), std::int32_t ParentHwnd = 0,
+                        const Variant& WidthInTwips = Variant::missing(),
+                        const Variant& HeightInTwips = Variant::missing(),
+                        const Variant& MsgTopInTwips = Variant::missing(), bool NoEvents = false,
+                        bool OpenAsTopMost = true);
+    void vkrClearMessage();
+    void vkrHideMessage();
+    // Sets oSource's MousePointer to the hourglass (true) or the default pointer (false).
+    void vkrShowWaitLet(const ObjectRef& oSource, bool value);
 
 private:
     std::shared_ptr<Module> module_;

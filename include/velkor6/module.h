@@ -1,12 +1,13 @@
 // The module context: everything that lives as long as the library is loaded.
 #pragma once
 
-#include <cstdint>
-#include <memory>
-#include <string>
-
 #include "velkor6/locale.h"
 #include "velkor6/platform/platform.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
 
 namespace velkor6 {
 
@@ -37,6 +38,9 @@ public:
     // The library's own resource document, shared by the dialogs; filled on first use.
     std::shared_ptr<XmlDocument>& resourceDocument() { return resourceDocument_; }
 
+    // The status window as the library last showed it; empty while none is open.
+    std::optional<StatusWindow>& statusWindow() { return statusWindow_; }
+
 private:
     std::unique_ptr<Platform> platform_;
     Locale locale_;
@@ -44,6 +48,7 @@ private:
     bool keepLogFiles_ = false;
     std::int16_t currentLanguage_ = 1;
     std::shared_ptr<XmlDocument> resourceDocument_;
+    std::optional<StatusWindow> statusWindow_;
 };
 
 } // namespace velkor6

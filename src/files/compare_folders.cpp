@@ -100,8 +100,8 @@ std::u16string newerFileQuestion(std::u16string_view name, std::u16string_view t
     return q;
 }
 
-bool compareFolders(FileSystem& fs, UserInterface& ui, const Locale& loc,
-                    std::u16string_view source, std::u16string_view target,
+bool compareFolders(FileSystem& fs, const MessageBoxFunction& ask, DialogHost& host,
+                    const Locale& loc, std::u16string_view source, std::u16string_view target,
                     std::u16string_view mask, const ObjectRef& splash) {
     const PathStyle style = fs.pathStyle();
     if (getFullPath(source, u"", style) == getFullPath(target, u"", style))
@@ -127,10 +127,10 @@ bool compareFolders(FileSystem& fs, UserInterface& ui, const Locale& loc,
             const std::u16string question = newerFileQuestion(
                 name, formatGeneralDate(targetStatus->lastModified, loc),
                 formatGeneralDate(sourceStatus->lastModified, loc), fs.fullPath(from), target);
-            if (ui.messageBox(question, u"Dateivergleich", yesNoInformation) == dlgresult::yes)
+            if (ask(question, u"Dateivergleich", yesNoInformation) == dlgresult::yes)
                 fs.copyFile(from, to, true);
         }
-        ui.serveEvents();
+        host.serveEvents();
     }
     form.showAgain();
     return true;

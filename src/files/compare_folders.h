@@ -1,7 +1,9 @@
 // Bringing the files of an installation folder over into an application folder.
 #pragma once
 
+#include "files/file_io.h"
 #include "velkor6/locale.h"
+#include "velkor6/platform/dialog_host.h"
 #include "velkor6/platform/file_system.h"
 #include "velkor6/platform/ui.h"
 #include "velkor6/variant.h"
@@ -25,8 +27,8 @@ std::u16string newerFileQuestion(std::u16string_view name, std::u16string_view t
 // ones without asking, newer ones after the user said yes. A target file that is as new or
 // newer is never touched. splash (a form answering Visible, Hide and Show) is hidden while a
 // question is on screen. False when source is missing or target cannot be made.
-bool compareFolders(FileSystem& fs, UserInterface& ui, const Locale& loc,
-                    std::u16string_view source, std::u16string_view target,
+bool compareFolders(FileSystem& fs, const MessageBoxFunction& ask, DialogHost& host,
+                    const Locale& loc, std::u16string_view source, std::u16string_view target,
                     std::u16string_view mask, const ObjectRef& splash);
 
 } // namespace velkor6::files

@@ -45,7 +45,7 @@ std::u16string attributeMessage(std::uint32_t forbidden) {
     return message;
 }
 
-bool checkAttributes(FileSystem& fs, UserInterface& ui, std::u16string_view name,
+bool checkAttributes(FileSystem& fs, const MessageBoxFunction& show, std::u16string_view name,
                      std::int16_t allowed, std::u16string_view title) {
     const auto status = name.empty() ? std::nullopt : fs.status(name);
     if (!status)
@@ -55,7 +55,7 @@ bool checkAttributes(FileSystem& fs, UserInterface& ui, std::u16string_view name
     if (message.empty())
         return true;
     constexpr std::int32_t criticalOkOnly = 16;
-    ui.messageBox(message, title, criticalOkOnly);
+    show(message, title, criticalOkOnly);
     return false;
 }
 

@@ -5,6 +5,7 @@
 #include "velkor6/platform/ui.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -26,7 +27,12 @@ std::u16string attributeMessage(std::uint32_t forbidden);
 
 // False, after telling the user, when the file carries an attribute outside allowed; false
 // without a word when it does not exist.
-bool checkAttributes(FileSystem& fs, UserInterface& ui, std::u16string_view name,
+// How a file member asks the user: text, title and message-box style in, the result of the chosen
+// button out.
+using MessageBoxFunction =
+    std::function<std::int32_t(std::u16string_view, std::u16string_view, std::int32_t)>;
+
+bool checkAttributes(FileSystem& fs, const MessageBoxFunction& show, std::u16string_view name,
                      std::int16_t allowed, std::u16string_view title);
 
 } // namespace velkor6::files

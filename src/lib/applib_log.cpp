@@ -1,6 +1,6 @@
 // The application log: the `applib` members and their rows.
 #include "applib/app_log.h"
-#include "applib/error_display.h"
+#include "dialogs/std_message.h"
 #include "files/paths.h"
 #include "lib/applib_members.h"
 #include "velkor6/applib.h"
@@ -34,7 +34,7 @@ void applib::logError(std::int32_t lError, std::u16string_view sErrDesc,
                       std::u16string_view sErrSrc, bool bShowMsgBox) {
     logAction(app::errorText(lError, sErrDesc, sErrSrc));
     if (bShowMsgBox)
-        app::showError(*module_, lError, sErrDesc, sErrSrc);
+        dialogs::showError(*module_, lError, sErrDesc, sErrSrc);
 }
 
 } // namespace velkor6

@@ -1,4 +1,5 @@
 // Paths, files and folders: the `lib` members and their rows in the member table.
+#include "dialogs/std_message.h"
 #include "files/compare_folders.h"
 #include "files/file_io.h"
 #include "files/find_file.h"
@@ -98,7 +99,9 @@ bool lib::vkrCheckAttributes(std::u16string_view sPathName, std::int16_t iAllowe
     Platform& p = module().platform();
     return trapped(
         [&] {
-            return files::checkAttributes(*p.fileSystem, *p.ui, sPathName, iAllowedAttribute,
+            const auto show = [&](std::u16string_view text, std::u16string_view title,
+                                  std::int32_t style) { return vkrExtMsgBox(text, style, title); };
+            return files::checkAttributes(*p.fileSystem, show, sPathName, iAllowedAttribute,
                                           fileDescription);
         },
         false);
@@ -139,8 +142,12 @@ bool lib::prfCompareFolders(std::u16string_view sSource, std::u16string_view sTa
     Platform& p = module().platform();
     return trapped(
         [&] {
-            return files::compareFolders(*p.fileSystem, *p.ui, locale(), sSource, sTarget, sMask,
-                                         oSplash);
+            const auto ask = [&](std::u16string_view text, std::u16string_view title,
+                                 std::int32_t style) {
+                return dialogs::showSystemMessage(module(), text, title, style);
+            };
+            return files::compareFolders(*p.fileSystem, ask, *p.dialogs, locale(), sSource, sTarget,
+                                         sMask, oSplash);
         },
         false);
 }

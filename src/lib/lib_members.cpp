@@ -14,6 +14,7 @@ const Table<lib>& libMembers() {
         addInitAppMembers(t);
         addResourceMembers(t);
         addTextFileMembers(t);
+        addDialogMembers(t);
         return t;
     }();
     return table;

@@ -105,14 +105,15 @@ TEST_F(StartUp, LogEntriesAppendAndAFailedWriteIsSilent) {
                                  " action\r\n" +
                                  "15.03.2024 10:31:01         ERR=53 'File not found' "
                                  "(Source=Main.Load)\r\n");
-    EXPECT_TRUE(fp.ui.messages().empty());
+    EXPECT_TRUE(fp.dialogs.forms().empty());
 
     fp.files.setAttributes(logPath, fileattr::readOnly);
     const std::string before = file(logPath);
     app().logError(5, u"Invalid call", u"X", true);
     EXPECT_EQ(file(logPath), before);
-    ASSERT_EQ(fp.ui.messages().size(), 1u); // the box is shown all the same
-    EXPECT_NE(fp.ui.messages()[0].text.find(u"Invalid call"), std::u16string::npos);
+    ASSERT_EQ(fp.dialogs.forms().size(), 1u); // the box is shown all the same
+    EXPECT_EQ(fp.dialogs.forms()[0].texts[0].text, u"Runtime error '5':");
+    EXPECT_EQ(fp.dialogs.forms()[0].texts[1].text, u"Invalid call");
 }
 
 TEST_F(StartUp, LanguageComesFromTheSettingsThenTheDefaultThenTheSystem) {

@@ -92,7 +92,7 @@ TEST_F(FoldersOnWindows, CompareFilesCopiesOnlyNewerOrMissing) {
     EXPECT_EQ(f.readFile(u"C:\\Dst\\older.txt"), "mine");
     EXPECT_TRUE(l.prfCompareFiles(u"missing.txt", u"C:\\Src", u"C:\\Dst"));
     EXPECT_EQ(f.readFile(u"C:\\Dst\\missing.txt"), "copy me");
-    EXPECT_TRUE(fp.ui.messages().empty());
+    EXPECT_TRUE(fp.dialogs.forms().empty());
 
     f.addFile(u"C:\\Src\\newer.txt", "newest", Date{later.serial + 1});
     f.setLocked(u"C:\\Dst\\newer.txt");
@@ -134,8 +134,8 @@ TEST_F(FoldersOnWindows, CompareFoldersCopiesSkipsAndAsks) {
     f.addFile(u"C:\\Setup\\secret.txt", "hidden", t, fileattr::hidden);
 
     auto splash = std::make_shared<Splash>();
-    fp.ui.answer(dlgresult::no);
-    fp.ui.answer(dlgresult::yes);
+    fp.dialogs.answer(fake::FakeDialogHost::button(1)); // no
+    fp.dialogs.answer(fake::FakeDialogHost::button(0)); // yes
     EXPECT_TRUE(l.prfCompareFolders(u"C:\\Setup", u"C:\\App", u"*.txt", splash));
 
     EXPECT_EQ(f.readFile(u"C:\\App\\new.txt"), "new");
@@ -147,11 +147,11 @@ TEST_F(FoldersOnWindows, CompareFoldersCopiesSkipsAndAsks) {
     EXPECT_FALSE(f.exists(u"C:\\App\\skip.dat"));
     EXPECT_FALSE(f.exists(u"C:\\App\\secret.txt"));
 
-    const auto& asked = fp.ui.messages();
+    const auto& asked = fp.dialogs.forms();
     ASSERT_EQ(asked.size(), 2u);
     EXPECT_EQ(asked[0].title, u"Dateivergleich");
-    EXPECT_EQ(asked[0].style, 68);
-    EXPECT_EQ(asked[0].text,
+    EXPECT_EQ(asked[0].systemStyle, 68);
+    EXPECT_EQ(asked[0].texts[0].text,
               u"Die Datei 'newer.txt' aus dem Installationsverzeichnis ist neuer als die bei Ihnen "
               u"aktuell verwendete Datei.\\n\\nMöchten Sie die Datei vom 15.03.2024 10:30:00 mit "
               u"der Originaldatei vom 15.03.2024 11:30:00 überschreiben?\\n\\nWenn Sie 'Nein' "
@@ -159,7 +159,7 @@ TEST_F(FoldersOnWindows, CompareFoldersCopiesSkipsAndAsks) {
               u"der Datei aus Ihrem Anwendungsverzeichnis 'C:/App' ersetzen, da Sie sonst bei "
               u"jedem Programmstart diese Meldung erhalten werden.\\n\\nBeachten Sie dabei, dass "
               u"Sie hierfür Administratorrechte brauchen werden.");
-    EXPECT_EQ(fp.ui.eventsServed(), 6); // once per listed file
+    EXPECT_EQ(fp.dialogs.eventsServed(), 6); // once per listed file
     EXPECT_EQ(splash->calls, (std::vector<std::u16string>{u"Visible", u"Hide", u"Show"}));
 }
 
@@ -170,7 +170,7 @@ TEST_F(FoldersOnWindows, CompareFoldersCreatesTheTargetAndKnowsItsOwnFolder) {
 
     fp.files.addFile(u"C:\\Setup\\a.txt", "changed", Date{fp.clock.now().serial + 1});
     EXPECT_TRUE(l.prfCompareFolders(u"C:\\Setup\\", u"C:\\Setup"));
-    EXPECT_TRUE(fp.ui.messages().empty());
+    EXPECT_TRUE(fp.dialogs.forms().empty());
     EXPECT_FALSE(l.prfCompareFolders(u"C:\\NoSetup", u"C:\\Data"));
 }
 

@@ -162,14 +162,17 @@ TEST_F(FilesOnWindows, CheckAttributesReportsTheFirstForbiddenOne) {
     EXPECT_TRUE(l.vkrCheckAttributes(u"C:\\dir", 16));
     EXPECT_FALSE(l.vkrCheckAttributes(u"C:\\missing.txt", 0));
 
-    const auto& shown = fp.ui.messages();
+    const auto& shown = fp.dialogs.forms();
     ASSERT_EQ(shown.size(), 3u);
-    EXPECT_EQ(shown[0].text, u"Diese Datei ist schreibgeschützt und kann deshalb nicht geöffnet "
-                             u"werden.\n\nBitte ändern Sie die Dateiattribute bevor Sie die Datei "
-                             u"erneut öffnen.");
-    EXPECT_EQ(shown[0].style, 16);
-    EXPECT_EQ(shown[1].text.substr(0, 27), u"Diese Datei ist versteckt u");
-    EXPECT_EQ(shown[2].text.substr(0, 48), u"Der eingegebene Name zeigt auf ein Verzeichnis u");
+    EXPECT_EQ(shown[0].kind, DialogForm::Kind::richMessage);
+    EXPECT_EQ(shown[0].icon, DialogIcon::critical);
+    EXPECT_EQ(shown[0].texts[0].text,
+              u"{Diese Datei ist schreibgeschützt und kann deshalb nicht geöffnet "
+              u"werden.\n\nBitte ändern Sie die Dateiattribute bevor Sie die Datei "
+              u"erneut öffnen.}");
+    EXPECT_EQ(shown[1].texts[0].text.substr(0, 28), u"{Diese Datei ist versteckt u");
+    EXPECT_EQ(shown[2].texts[0].text.substr(0, 49),
+              u"{Der eingegebene Name zeigt auf ein Verzeichnis u");
 }
 
 TEST_F(FilesOnWindows, FindFile) {

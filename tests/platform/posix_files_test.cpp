@@ -64,8 +64,9 @@ TEST_F(FilesOnPosix, FilesAndAttributes) {
     EXPECT_TRUE(l.vkrCheckAttributes(tmp.u16(".profile"), 2));
     EXPECT_FALSE(l.vkrCheckAttributes(tmp.u16(), 0));
     const std::string shown = testing::internal::GetCapturedStderr();
-    EXPECT_NE(shown.find("[velkor6] Diese Datei ist versteckt und kann deshalb nicht"),
-              std::string::npos);
+    EXPECT_NE(
+        shown.find("--- velkor6 ---\n(critical)\nDiese Datei ist versteckt und kann deshalb nicht"),
+        std::string::npos);
     EXPECT_NE(shown.find("Der eingegebene Name zeigt auf ein Verzeichnis"), std::string::npos);
 }
 
@@ -181,17 +182,18 @@ TEST_F(FilesOnPosix, CompareFoldersNeverLosesANewerTarget) {
     std::filesystem::last_write_time(tmp.path() / "app/newer.txt", now - std::chrono::hours(2));
     std::filesystem::last_write_time(tmp.path() / "setup/older.txt", now - std::chrono::hours(2));
 
-    // Without a display the question goes to standard error and its default button (yes)
-    // answers it.
+    // Without a display and without answers the question goes to standard error and is answered
+    // as Esc would: no.
     testing::internal::CaptureStderr();
     EXPECT_TRUE(l.prfCompareFolders(tmp.u16("setup"), tmp.u16("app")));
     const std::string asked = testing::internal::GetCapturedStderr();
 
     const auto read = [&](const char* name) { return l.vkrFileStream(tmp.u16(name)); };
     EXPECT_EQ(read("app/new.txt"), u"new");
-    EXPECT_EQ(read("app/newer.txt"), u"setup");
+    EXPECT_EQ(read("app/newer.txt"), u"in use");
     EXPECT_EQ(read("app/older.txt"), u"edited");
-    EXPECT_NE(asked.find("[Dateivergleich] Die Datei 'newer.txt'"), std::string::npos);
+    EXPECT_NE(asked.find("--- Dateivergleich ---\n(information)\nDie Datei 'newer.txt'"),
+              std::string::npos);
     EXPECT_EQ(asked.find("older.txt"), std::string::npos);
 }
 

@@ -74,7 +74,7 @@ TEST_F(AppResources, LoadsXmlFromTheLibraryOfTheLanguage) {
     auto french = l.vkrInitApp(HostApp{u"C:\\App", u"App", 1, 0, 0}, u"App");
     french->languageLet(3);
     EXPECT_EQ(french->loadRes(1, u"XML"), u"<resources>DE</resources>");
-    EXPECT_TRUE(p.ui.messages().empty());
+    EXPECT_TRUE(p.dialogs.forms().empty());
 }
 
 TEST_F(AppResources, KeepsTextThatDoesNotStartLikeXml) {
@@ -94,7 +94,9 @@ TEST_F(AppResources, ReportsMissingAndBrokenLibraries) {
                          "(Source=velkor6.loadRes)"),
               std::string::npos)
         << log();
-    ASSERT_EQ(p.ui.messages().size(), 1u);
+    ASSERT_EQ(p.dialogs.forms().size(), 1u);
+    EXPECT_EQ(p.dialogs.forms()[0].title, u"velkor6.loadRes");
+    EXPECT_EQ(p.dialogs.forms()[0].texts[0].text, u"Runtime error '&H80040000':");
 
     p.files.addFile(u"C:\\App\\ResEN.dll", "no library");
     EXPECT_EQ(app->loadRes(1, u"XML"), u"");
@@ -102,7 +104,7 @@ TEST_F(AppResources, ReportsMissingAndBrokenLibraries) {
                          "(Source=velkor6.loadRes [App])"),
               std::string::npos)
         << log();
-    EXPECT_EQ(p.ui.messages().size(), 1u); // logged only
+    EXPECT_EQ(p.dialogs.forms().size(), 1u); // logged only
 }
 
 TEST_F(AppResources, ReadsStringsFromTheLibraryOfTheLanguageNumber) {
@@ -125,7 +127,7 @@ TEST_F(AppResources, ReadsStringsFromTheLibraryOfTheLanguageNumber) {
     EXPECT_NE(log().find("ERR=126 'LoadLibrary 'C:\\App\\Str1' failed.' (Source=velkor6.vkrRes)"),
               std::string::npos)
         << log();
-    EXPECT_TRUE(p.ui.messages().empty());
+    EXPECT_TRUE(p.dialogs.forms().empty());
 }
 
 TEST_F(AppResources, ReadsALibraryTheResourceCompilerMade) {
