@@ -4,8 +4,9 @@
 // the box's focused control.
 // usage: dialog_keys TITLE STEP...
 // Steps: a key name (a letter or digit, Esc, Enter, Space, Tab), Alt+<letter>, text:<characters>,
-// close (the close box), shot:<file> (creates the file and waits until someone deletes it, so a
-// screenshot can be taken first), wait:<milliseconds>.
+// close (the close box), click:<caption> (a mouse click on that button), shot:<file> (creates the
+// file and waits until someone deletes it, so a screenshot can be taken first),
+// wait:<milliseconds>.
 // clang-format off
 #include <windows.h>
 // clang-format on
@@ -162,6 +163,11 @@ bool waitForDeletion(const std::wstring& file) {
 bool step(Keyboard& keyboard, HWND box, std::wstring_view what) {
     if (what == L"close")
         return PostMessageW(box, WM_SYSCOMMAND, SC_CLOSE, 0) != FALSE;
+    if (what.starts_with(L"click:")) {
+        const std::wstring caption(what.substr(6));
+        const HWND button = FindWindowExW(box, nullptr, L"Button", caption.c_str());
+        return button != nullptr && PostMessageW(button, BM_CLICK, 0, 0) != FALSE;
+    }
     if (what.starts_with(L"text:")) {
         keyboard.type(what.substr(5));
         return true;

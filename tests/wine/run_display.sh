@@ -97,7 +97,7 @@ for script in "$@"; do
     cat "$(dirname "$0")/check.inc" "$script" >"$combined"
     arguments=("$(winpath "$helper")")
     [ -n "$shots" ] && arguments+=("$(winpath "$shots")")
-    timeout 600 winsys cscript //nologo "$(winpath "$combined")" "${arguments[@]}" \
+    timeout 600 "$wine64" "$(winsysprogram cscript)" //nologo "$(winpath "$combined")" "${arguments[@]}" \
         >"$work/log" 2>&1
     status=$?
     output=$(tr -d '\r' <"$work/log")

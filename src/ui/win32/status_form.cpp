@@ -78,7 +78,8 @@ bool StatusForm::show(const StatusWindow& window) {
     SetWindowPos(form, window.topMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ShowWindow(form, SW_SHOWNA);
-    UpdateWindow(form);
+    // Painted now: a caller's long loop may not serve events before the next update.
+    RedrawWindow(form, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     return true;
 }
 

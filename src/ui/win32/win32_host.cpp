@@ -65,8 +65,11 @@ private:
     // The system's own message box; the button whose result it returned is the event.
     static DialogEvent systemBox(const DialogForm& form, const DialogDecision& decide) {
         std::u16string text;
-        for (const DialogText& t : form.texts)
-            text += (text.empty() ? u"" : u"\r\n") + (t.rich ? t.plainText : t.text);
+        for (const DialogText& t : form.texts) {
+            const std::u16string& shown = t.rich ? t.plainText : t.text;
+            if (!shown.empty())
+                text += (text.empty() ? u"" : u"\r\n") + shown;
+        }
         const int chosen = MessageBoxW(defaultOwner(), wide(text).c_str(), wide(form.title).c_str(),
                                        static_cast<UINT>(form.systemStyle));
         DialogEvent event;
