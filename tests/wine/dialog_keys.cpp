@@ -4,9 +4,9 @@
 // the box's focused control.
 // usage: dialog_keys TITLE STEP...
 // Steps: a key name (a letter or digit, Esc, Enter, Space, Tab), Alt+<letter>, text:<characters>,
-// close (the close box), click:<caption> (a mouse click on that button), shot:<file> (creates the
-// file and waits until someone deletes it, so a screenshot can be taken first),
-// wait:<milliseconds>.
+// dump (lists the controls on standard error), close (the close box), click:<caption> (a mouse
+// click on that button), shot:<file> (creates the file and waits until someone deletes it, so a
+// screenshot can be taken first), wait:<milliseconds>.
 // clang-format off
 #include <windows.h>
 // clang-format on
@@ -160,7 +160,28 @@ bool waitForDeletion(const std::wstring& file) {
     return false;
 }
 
+BOOL CALLBACK printChild(HWND child, LPARAM) {
+    wchar_t name[64] = {};
+    wchar_t text[128] = {};
+    GetClassNameW(child, name, 64);
+    GetWindowTextW(child, text, 128);
+    RECT r{};
+    GetWindowRect(child, &r);
+    MapWindowPoints(nullptr, GetParent(child), reinterpret_cast<POINT*>(&r), 2);
+    std::fprintf(stderr, "  %ls \"%ls\" at %ld,%ld size %ldx%ld%s\n", name, text, r.left, r.top,
+                 r.right - r.left, r.bottom - r.top,
+                 IsWindowVisible(child) != FALSE ? "" : " (hidden)");
+    return TRUE;
+}
+
 bool step(Keyboard& keyboard, HWND box, std::wstring_view what) {
+    if (what == L"dump") {
+        RECT client{};
+        GetClientRect(box, &client);
+        std::fprintf(stderr, "window of %ldx%ld:\n", client.right, client.bottom);
+        EnumChildWindows(box, printChild, 0);
+        return true;
+    }
     if (what == L"close")
         return PostMessageW(box, WM_SYSCOMMAND, SC_CLOSE, 0) != FALSE;
     if (what.starts_with(L"click:")) {

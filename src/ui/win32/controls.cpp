@@ -115,7 +115,11 @@ std::wstring windowText(HWND window) {
     return text;
 }
 
-RichEditLibrary::RichEditLibrary() : library_(LoadLibraryW(L"Msftedit.dll")) {}
+bool RichEditLibrary::load() {
+    if (!library_)
+        library_.reset(LoadLibraryW(L"Msftedit.dll"));
+    return static_cast<bool>(library_);
+}
 
 HWND makeRichText(HWND parent, const RECT& place, std::u16string_view rtf, HFONT font,
                   COLORREF colour) {
@@ -138,6 +142,19 @@ void setRichText(HWND control, std::u16string_view rtf) {
     SETTEXTEX how{ST_DEFAULT, CP_ACP};
     SendMessageW(control, EM_SETTEXTEX, reinterpret_cast<WPARAM>(&how),
                  reinterpret_cast<LPARAM>(document.c_str()));
+}
+
+void centreParagraphs(HWND control) {
+    CHARRANGE kept{};
+    SendMessageW(control, EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&kept));
+    CHARRANGE all{0, -1};
+    SendMessageW(control, EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&all));
+    PARAFORMAT2 format{};
+    format.cbSize = sizeof format;
+    format.dwMask = PFM_ALIGNMENT;
+    format.wAlignment = PFA_CENTER;
+    SendMessageW(control, EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&format));
+    SendMessageW(control, EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&kept));
 }
 
 std::string asciiRtf(std::u16string_view rtf) {

@@ -34,11 +34,12 @@ void addToolTip(HWND parent, HWND control, const std::wstring& text);
 void moveControl(HWND control, const RECT& place);
 std::wstring windowText(HWND window);
 
-// Msftedit.dll, loaded for the rich-text controls of one form and freed with it.
+// Msftedit.dll, loaded for the first rich-text control and kept while the host lives: unloaded
+// and loaded again between two forms, Wine's rich-text controls stopped painting.
 class RichEditLibrary {
 public:
-    RichEditLibrary();
-    bool loaded() const { return static_cast<bool>(library_); }
+    // Whether rich-text controls can be made; loads the library the first time.
+    bool load();
 
 private:
     Library library_;
@@ -49,6 +50,8 @@ private:
 HWND makeRichText(HWND parent, const RECT& place, std::u16string_view rtf, HFONT font,
                   COLORREF colour);
 void setRichText(HWND control, std::u16string_view rtf);
+// Centres every paragraph of a rich-text control.
+void centreParagraphs(HWND control);
 
 // `rtf` as a complete document in 7-bit characters: a fragment is wrapped in a document, and
 // every character above 127 becomes a \uN? escape (N the signed 16-bit code).

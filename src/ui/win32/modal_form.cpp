@@ -28,8 +28,9 @@ bool modifierDown() {
 
 } // namespace
 
-ModalForm::ModalForm(const DialogForm& form, const DialogDecision& decide)
-    : form_(form), decide_(decide) {}
+ModalForm::ModalForm(const DialogForm& form, const DialogDecision& decide,
+                     RichEditLibrary& richEdit)
+    : form_(form), decide_(decide), richEdit_(richEdit) {}
 
 DialogEvent ModalForm::run(HWND owner) {
     if (!build()) {
@@ -75,13 +76,9 @@ bool ModalForm::build() {
     for (const DialogText& text : form_.texts) {
         const HFONT font = fonts_.get(text.font);
         HWND control = nullptr;
-        if (text.rich) {
-            if (!richEdit_)
-                richEdit_.emplace();
-            if (richEdit_->loaded())
-                control = makeRichText(form, rectOf(text.rect), text.text, font,
-                                       colourOf(text.font.color));
-        }
+        if (text.rich && richEdit_.load())
+            control =
+                makeRichText(form, rectOf(text.rect), text.text, font, colourOf(text.font.color));
         if (control == nullptr) {
             control = makeLabel(form, rectOf(text.rect),
                                 wide(text.rich ? text.plainText : text.text), font, text.wordWrap);

@@ -18,7 +18,7 @@ namespace velkor6::ui::win32 {
 
 class ModalForm final : public FormWindow {
 public:
-    ModalForm(const DialogForm& form, const DialogDecision& decide);
+    ModalForm(const DialogForm& form, const DialogDecision& decide, RichEditLibrary& richEdit);
     // Shows the form over `owner` until the logic accepts an event, and returns that event.
     // Without a window (the system refused one) it returns a refused close.
     DialogEvent run(HWND owner);
@@ -34,7 +34,7 @@ private:
     const DialogForm& form_;
     const DialogDecision& decide_;
     FontSet fonts_;
-    std::optional<RichEditLibrary> richEdit_;
+    RichEditLibrary& richEdit_;
     std::vector<HWND> buttons_;
     HWND field_ = nullptr;
     std::vector<std::pair<HWND, COLORREF>> colours_;

@@ -32,10 +32,11 @@ bool StatusForm::build(const StatusWindow& window) {
                 window.clientSize.height))
         return false;
     const HFONT font = fonts_.get(window.message.font);
-    if (richEdit_.loaded())
+    if (richEdit_.load()) {
         message_ = makeRichText(handle(), rectOf(window.message.rect), window.message.text, font,
                                 colourOf(window.message.font.color));
-    else
+        centreParagraphs(message_);
+    } else
         message_ = makeLabel(handle(), rectOf(window.message.rect), wide(window.message.plainText),
                              font, true);
     shownText_ = window.message.text;
@@ -57,9 +58,10 @@ bool StatusForm::show(const StatusWindow& window) {
 
     moveControl(message_, rectOf(window.message.rect));
     if (window.message.text != shownText_) {
-        if (richEdit_.loaded())
+        if (richEdit_.load()) {
             setRichText(message_, window.message.text);
-        else
+            centreParagraphs(message_);
+        } else
             SetWindowTextW(message_, wide(window.message.plainText).c_str());
         shownText_ = window.message.text;
     }

@@ -17,6 +17,7 @@ namespace velkor6::ui::win32 {
 
 class StatusForm final : public FormWindow {
 public:
+    explicit StatusForm(RichEditLibrary& richEdit) : richEdit_(richEdit) {}
     // Makes the window or brings it up to date, and shows it without taking the activation.
     bool show(const StatusWindow& window);
     void hide();
@@ -26,7 +27,7 @@ private:
     bool build(const StatusWindow& window);
 
     FontSet fonts_;
-    RichEditLibrary richEdit_;
+    RichEditLibrary& richEdit_;
     HWND message_ = nullptr;
     HWND counter_ = nullptr;
     std::u16string shownText_;

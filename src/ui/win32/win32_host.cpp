@@ -27,7 +27,7 @@ public:
     DialogEvent showModal(const DialogForm& form, const DialogDecision& decide) override {
         if (form.kind == DialogForm::Kind::systemMessage)
             return systemBox(form, decide);
-        ModalForm window(form, decide);
+        ModalForm window(form, decide, richEdit_);
         return window.run(defaultOwner());
     }
 
@@ -39,7 +39,7 @@ public:
 
     void showStatus(const StatusWindow& window) override {
         if (!status_)
-            status_ = std::make_unique<StatusForm>();
+            status_ = std::make_unique<StatusForm>(richEdit_);
         if (!status_->show(window))
             status_.reset();
     }
@@ -86,6 +86,7 @@ private:
     }
 
     FontSet fonts_;
+    RichEditLibrary richEdit_; // before the forms that use it, so that it goes after them
     std::unique_ptr<StatusForm> status_;
 };
 

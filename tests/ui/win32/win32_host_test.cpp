@@ -168,7 +168,7 @@ TEST(Win32Host, StatusWindowComesGoesAndKeepsItsWindow) {
     const auto host = createDialogHost();
     StatusWindow status;
     status.title = u"Import";
-    status.message = {u"\\b Satz 1\\b0", true, u"Satz 1", {}, {10, 10, 280, 40}, true};
+    status.message = {u"{\\qc \\b Satz 1\\b0}", true, u"Satz 1", {}, {10, 10, 280, 40}, true};
     status.counterVisible = true;
     status.counterValue = 30;
     status.counterMax = 120;
@@ -180,6 +180,13 @@ TEST(Win32Host, StatusWindowComesGoesAndKeepsItsWindow) {
     ASSERT_NE(window, nullptr);
     EXPECT_NE(IsWindowVisible(window), FALSE);
     EXPECT_NE(GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+    const HWND message = FindWindowExW(window, nullptr, L"RICHEDIT50W", nullptr);
+    wchar_t shown[64] = {};
+    GetWindowTextW(message, shown, 64);
+    EXPECT_EQ(std::wstring(shown), L"Satz 1");
+    RECT place{};
+    GetClientRect(message, &place);
+    EXPECT_EQ(place.right, 280);
     const HWND bar = FindWindowExW(window, nullptr, PROGRESS_CLASSW, nullptr);
     EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), 30);
     EXPECT_EQ(SendMessageW(bar, PBM_GETRANGE, FALSE, 0), 120);
