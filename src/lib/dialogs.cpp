@@ -143,6 +143,8 @@ void lib::vkrShowWaitLet(const ObjectRef& oSource, bool value) {
     constexpr std::int16_t hourglass = 11, defaultPointer = 0;
     trapped(
         [&] {
+            if (!oSource)
+                throw VbError(vberr::objectNotSet);
             std::array<Variant, 1> pointer{Variant(value ? hourglass : defaultPointer)};
             oSource->call(u"MousePointer", CallKind::PropertyLet, pointer);
             return true;

@@ -82,6 +82,16 @@ status inflate-strict 0 cmp -s "$services" <("$bin" deflate <"$services" | "$bin
 status inflate-compatible 1 cmp -s "$services" <("$bin" deflate <"$services" | "$bin" inflate --compatible)
 status inflate-unknown 2 "$bin" inflate --loose </dev/null
 
+# Dialogs without a display: the answer comes from VELKOR6_ANSWERS; without one, and with no
+# terminal to ask, the box is answered at once as Esc would (here the set's cancel button, No).
+headless() { VELKOR6_UI=headless timeout 10 "$@" 2>/dev/null </dev/null; }
+check dialog-answered 7 headless env VELKOR6_ANSWERS=7 "$bin" call vkrMsgBox "p" "d" 4
+check dialog-unanswered 7 headless env -u VELKOR6_ANSWERS "$bin" call vkrMsgBox "p" "d" 6
+check dialog-typed $'1\nvalue = "12345678"' \
+    headless env VELKOR6_ANSWERS=text:1234567890 "$bin" call vkrInputValue "08|Code" "T" ""
+check dialog-shown $'--- velkor6 ---\n(exclamation)\nRuntime error \'53\':\nFile not found\n  1 = OK (default)' \
+    env VELKOR6_UI=headless "$bin" call vkrErrorMsg 53 "File not found" ""
+
 members=$("$bin" members)
 if ! grep -q '^Function vkrFindSubString(sSource As String' <<<"$members"; then
     failed=$((failed + 1))

@@ -31,7 +31,7 @@ DialogEvent FakeDialogHost::showModal(const DialogForm& form, const DialogDecisi
     events.push_back(key(DialogEvent::Kind::closeBox));
     for (DialogEvent& event : events) {
         // An event without typed text leaves the field as the form shows it.
-        if (event.text.empty() && form.field && event.kind != DialogEvent::Kind::button)
+        if (event.text.empty() && form.field)
             event.text = form.field->text;
         if (event.clientSize == PixelSize{})
             event.clientSize = form.clientSize;
