@@ -5,6 +5,7 @@
 #include <commctrl.h>
 // clang-format on
 
+#include "ui/win32/controls.h"
 #include "ui/win32/form_window.h"
 #include "ui/win32/win32_host.h"
 
@@ -141,6 +142,48 @@ TEST(Win32Host, FieldKeepsToItsLimitAndHidesACode) {
     EXPECT_EQ(result.text, u"01234567");
 }
 
+TEST(Win32Host, ZoomEditorSelectsItsTextKeepsEnterAndGrowsWithTheForm) {
+    DialogForm form;
+    form.kind = DialogForm::Kind::zoom;
+    form.title = u"zoom";
+    form.clientSize = {300, 200};
+    form.resizable = true;
+    form.minimumSize = {200, 120};
+    form.field = DialogField{u"Zeile", 0, 0, true, true, false, u"", true, {8, 8, 284, 150}};
+    form.buttons.push_back({u"OK", 1, 0, {212, 168, 80, 24}});
+    const auto host = createDialogHost();
+    Recorder recorder{{}, 0};
+    DWORD selection = 0;
+    RECT grownField{}, movedButton{};
+    DialogEvent result;
+    {
+        const User user(L"zoom", [&](HWND window) {
+            const HWND edit = FindWindowExW(window, nullptr, L"Edit", nullptr);
+            Sleep(100);
+            selection = static_cast<DWORD>(SendMessageW(edit, EM_GETSEL, 0, 0));
+            key(edit, VK_RETURN); // a new line, not the default button
+            RECT outer{};
+            GetWindowRect(window, &outer);
+            SetWindowPos(window, nullptr, 0, 0, outer.right - outer.left + 100,
+                         outer.bottom - outer.top + 50, SWP_NOMOVE | SWP_NOZORDER);
+            GetClientRect(edit, &grownField);
+            const HWND ok = FindWindowExW(window, nullptr, L"Button", L"OK");
+            GetWindowRect(ok, &movedButton);
+            MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&movedButton), 2);
+            PostMessageW(ok, BM_CLICK, 0, 0);
+        });
+        result = host->showModal(form, std::ref(recorder));
+    }
+    EXPECT_EQ(LOWORD(selection), 0);
+    EXPECT_EQ(HIWORD(selection), 5) << "the whole text is selected";
+    EXPECT_EQ(result.kind, DialogEvent::Kind::button);
+    EXPECT_EQ(result.text, u"\r\n");
+    EXPECT_EQ(result.clientSize, (PixelSize{400, 250}));
+    EXPECT_EQ(movedButton.left, 312);
+    EXPECT_EQ(movedButton.top, 218);
+    EXPECT_GT(grownField.right, 284);
+}
+
 TEST(Win32Host, OwnerIsDisabledWhileTheFormIsUpAndEnabledAfter) {
     const HWND owner = CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0,
                                        0, 200, 100, nullptr, nullptr, nullptr, nullptr);
@@ -218,6 +261,13 @@ TEST(Win32Host, MeasuresLabelsOnOneLineOrWrapped) {
     DialogFont bigger = font;
     bigger.pointSize = 16;
     EXPECT_GT(host->measureText(text, bigger, 0).width, line.width);
+}
+
+TEST(Win32Host, RichTextGoesToTheControlAsASevenBitDocument) {
+    EXPECT_EQ(asciiRtf(u"{\\qc Gr\u00FC\u00DFe}"), "{\\rtf1\\ansi {\\qc Gr\\u252?\\u223?e}}");
+    // Above 32767 the code is written as a negative number.
+    EXPECT_EQ(asciiRtf(u"\uFFFD"), "{\\rtf1\\ansi \\u-3?}");
+    EXPECT_EQ(asciiRtf(u"{\\rtf1 x}"), "{\\rtf1 x}");
 }
 
 } // namespace
