@@ -296,7 +296,8 @@ void addDialogMembers(Table<lib>& t) {
          u"Edits the Text of a control in a large resizable window; OK writes it back.",
          u"Sources: TextBox, ComboBox, Node, ListItem, ListBox, QSCombo, QZCombo; others raise "
          u"error 5. Unless IgnoreAttributes, the editor takes over Enabled, Locked and "
-         u"ToolTipText. The window size is kept in section ZoomWindow of oApp's settings."});
+         u"ToolTipText. Description is the window's caption. The window size is kept in section "
+         u"ZoomWindow of oApp's settings."});
     t.push_back(
         {75,
          u"vkrSendMessage",

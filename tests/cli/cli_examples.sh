@@ -90,7 +90,7 @@ check dialog-unanswered 7 headless env -u VELKOR6_ANSWERS "$bin" call vkrMsgBox 
 check dialog-typed $'1\nvalue = "12345678"' \
     headless env VELKOR6_ANSWERS=text:1234567890 "$bin" call vkrInputValue "08|Code" "T" ""
 check dialog-shown $'--- velkor6 ---\n(exclamation)\nRuntime error \'53\':\nFile not found\n  1 = OK (default)' \
-    env VELKOR6_UI=headless "$bin" call vkrErrorMsg 53 "File not found" ""
+    env -u VELKOR6_ANSWERS VELKOR6_UI=headless "$bin" call vkrErrorMsg 53 "File not found" ""
 
 members=$("$bin" members)
 if ! grep -q '^Function vkrFindSubString(sSource As String' <<<"$members"; then

@@ -20,6 +20,8 @@
 // - A resizable form may be resized down to minimumSize; its field grows with the form and its
 //   buttons keep their distance to the bottom-right corner.
 // - A rich text is an RTF fragment; a host that cannot render RTF shows plainText instead.
+// - A systemMessage form may be shown as the system's own message box with systemStyle; the host
+//   then reports the chosen button as a click on the button carrying its result.
 // - The status window is not modal: showStatus creates it when none is open, otherwise updates
 //   it, and shows it without blocking; hideStatus hides it keeping its contents; closeStatus
 //   destroys it. serveEvents lets pending user-interface events run once and returns.

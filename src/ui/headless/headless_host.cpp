@@ -3,9 +3,11 @@
 #include "core/text.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <optional>
 #include <sstream>
 
 #ifdef _WIN32

@@ -6,6 +6,7 @@
 
 #include <deque>
 #include <iosfwd>
+#include <optional>
 #include <string>
 
 namespace velkor6::ui {
