@@ -9,8 +9,8 @@ cd "$(dirname "$0")/.."
 windows=${VELKOR6_WINDOWS:-1}
 windowsPackages=()
 if [ "$windows" != 0 ]; then
-    windowsPackages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine
-                     wine64 libwine)
+    windowsPackages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine xvfb
+                     x11-apps imagemagick wine64 libwine)
 fi
 scripts/deps.sh "${windowsPackages[@]}"
 # 32-bit Wine comes from another architecture's package lists, which a mirror may not serve at

@@ -19,8 +19,10 @@ namespace {
 
 using velkor6::win32::Handle;
 
-// The class name of the system's dialog boxes, message boxes among them.
+// The class names of the system's dialog boxes (message boxes among them) and of the library's
+// own dialogs.
 constexpr std::wstring_view dialogClass = L"#32770";
+constexpr std::wstring_view libraryDialogClass = L"velkor6.Form";
 constexpr DWORD pollMilliseconds = 100;
 
 std::wstring commandTail() {
@@ -126,6 +128,9 @@ void answer(HWND box) {
     EnumChildWindows(box, noteButton, reinterpret_cast<LPARAM>(&buttons));
     const int id = buttons.defaultId != 0 ? buttons.defaultId : buttons.leftmostId;
     const HWND button = id != 0 ? GetDlgItem(box, id) : nullptr;
+    // The library's status window has no buttons and closes only when its program says so.
+    if (button == nullptr && className(box) == libraryDialogClass)
+        return;
     std::fprintf(stderr, "answered box \"%s\": %s [%s]\n", utf8(windowText(box)).c_str(),
                  utf8(boxText(box)).c_str(),
                  button != nullptr ? utf8(windowText(button)).c_str() : "close");
@@ -146,7 +151,8 @@ BOOL CALLBACK answerIfBox(HWND window, LPARAM state) {
     DWORD owner = 0;
     GetWindowThreadProcessId(window, &owner);
     if (owner == watch.processId && IsWindowVisible(window) != FALSE &&
-        className(window) == dialogClass && watch.answered.insert(window).second)
+        (className(window) == dialogClass || className(window) == libraryDialogClass) &&
+        watch.answered.insert(window).second)
         answer(window);
     return TRUE;
 }

@@ -1,7 +1,9 @@
 #include "platform/win32/services.h"
 #include "platform/win32/wide.h"
 #include "ui/dialog_host_choice.h"
+#include "ui/win32/win32_host.h"
 
+#include <string_view>
 #include <windows.h>
 
 namespace velkor6 {
@@ -9,6 +11,15 @@ namespace win32 {
 namespace {
 
 void marker() {}
+
+// Every Windows process can draw windows; VELKOR6_UI=headless still asks for text.
+std::unique_ptr<DialogHost> createDialogHost() {
+    wchar_t chosen[16] = {};
+    const DWORD n = GetEnvironmentVariableW(L"VELKOR6_UI", chosen, 16);
+    if (n > 0 && n < 16 && std::wstring_view(chosen) == L"headless")
+        return ui::createDialogHost();
+    return ui::win32::createDialogHost();
+}
 
 } // namespace
 
@@ -34,7 +45,7 @@ std::unique_ptr<Platform> Platform::createNative() {
     p->environment = win32::createEnvironment();
     p->input = win32::createInputState();
     p->ui = win32::createUserInterface();
-    p->dialogs = ui::createDialogHost();
+    p->dialogs = win32::createDialogHost();
     p->shell = win32::createShell();
     p->registry = win32::createRegistry();
     p->fileStore = win32::createFileStore();
