@@ -2,15 +2,15 @@
 // one src/lib file per family; through that table the members are reachable by name (CLI, COM).
 #pragma once
 
-#include <cstdint>
-#include <memory>
-#include <string>
-#include <string_view>
-
 #include "velkor6/applib.h"
 #include "velkor6/module.h"
 #include "velkor6/records.h"
 #include "velkor6/variant.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
 
 namespace velkor6 {
 
@@ -61,8 +61,7 @@ public:
     bool vkrIsInSigns(std::u16string_view sSource, std::u16string_view sSigns, std::int16_t iStart,
                       std::int16_t iLen);
     bool vkrIsNumericWord(std::u16string_view sSource, std::int16_t iStart, std::int16_t iLen);
-    std::u16string vkrMid(std::u16string_view Source, std::int32_t Start,
-                          std::int32_t length = -1);
+    std::u16string vkrMid(std::u16string_view Source, std::int32_t Start, std::int32_t length = -1);
     void vkrMidLet(std::u16string& Source, std::int32_t Start, std::int32_t length,
                    std::u16string_view value);
 
@@ -138,7 +137,8 @@ public:
                                 std::u16string_view sValueName,
                                 std::u16string_view sDefaultValue = {});
     std::int32_t regSubKeyCount(std::int32_t lRegKey, std::u16string_view sRegSubKey);
-    // Fills sKeys with the names of the direct sub-keys; leaves it alone when the key does not open.
+    // Fills sKeys with the names of the direct sub-keys; leaves it alone when the key does not
+    // open.
     void regFindKeys(std::int32_t lRegKey, std::u16string_view sRegSubKey, VariantArray& sKeys);
 
     // --- XML resources and resource libraries -----------------------------------------------
@@ -156,6 +156,40 @@ public:
                                     std::u16string_view sInclNoFormat = {});
     // The string lResID of the string tables of oApp's resource library for its language.
     std::u16string vkrRes(applib& oApp, std::int32_t lResID);
+
+    // --- Window lookup, waiting and z-order ------------------------------------------------
+    // Window handles are any program's windows: Win32 HWNDs on Windows, X window ids on X11.
+    std::int32_t vkrFindWindow(std::int32_t lTopHwnd, std::u16string_view lpClassName,
+                               std::u16string_view lpClassCaption, bool bFindNext = false);
+    // ParentForm (Nothing when not given) answers Enabled.
+    bool vkrWaitForClassStarted(std::u16string_view sClassName, std::u16string_view sClassCaption,
+                                std::int32_t lMaxSeconds = 300, const ObjectRef& ParentForm = {});
+    bool vkrWaitForClassFinished(std::u16string_view sClassName, std::u16string_view sClassCaption,
+                                 std::int32_t lMaxSeconds = 300, const ObjectRef& ParentForm = {});
+    void vkrWait(std::int32_t lMilliSeconds, bool bIsActive = true);
+    void vkrTopMost(std::int32_t lTopMost);
+    void vkrOpenTopMost(std::int32_t lTopMost, bool bCenter = false);
+    void vkrOpenApplicationTopMost(std::int32_t lTopMost, std::int32_t lAppHwnd,
+                                   bool bCenter = false);
+    void vkrApplicationTopMost(std::int32_t lhWndClient, std::int32_t lHWndParent = 0);
+    // oForms answers Count and its default member with a 0-based index; each form answers Name.
+    // oForm, when given, receives the form found and is left alone otherwise.
+    bool vkrIsFormOpen(const ObjectRef& oForms, std::u16string_view strFormName,
+                       Variant* oForm = nullptr);
+
+    // --- Window shape, screen metrics and input state -------------------------------------
+    void vkrRoundWindow(std::int32_t hwnd, std::int32_t lX, std::int32_t lY,
+                        std::int32_t lXOffset = 0, std::int32_t lYOffset = 0);
+    void vkrWindowShadow(std::int32_t hwnd);
+    void vkrClipCursor(std::int32_t hwnd = 0, std::int32_t hSecondWnd = 0);
+    std::int32_t vkrGetFrameSize(std::int32_t lHwnd);
+    std::int32_t vkrGetMenuHeight();
+    std::int32_t vkrGetScreenHeight();
+    std::int32_t vkrGetScreenWidth();
+    // tSize is left alone for handle 0.
+    void vkrGetInternalFormSize(std::int32_t lHwnd, SIZE& tSize);
+    bool vkrIsKeyDown(std::int32_t lKey);
+    bool vkrIsMouseButtonDown(std::int16_t lButton);
 
 private:
     std::shared_ptr<Module> module_;

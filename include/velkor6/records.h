@@ -1,6 +1,7 @@
 // Public records (user-defined types) of the type library.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace velkor6 {
@@ -12,6 +13,12 @@ struct typFileInfo {
     std::u16string lpFileName; // without the extension
     std::u16string lpExt;      // without the dot
     std::u16string lpFullName; // as passed in
+};
+
+// A size (vkrGetInternalFormSize gives it in twips).
+struct SIZE {
+    std::int32_t CX = 0;
+    std::int32_t CY = 0;
 };
 
 } // namespace velkor6

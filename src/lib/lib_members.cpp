@@ -14,6 +14,7 @@ const Table<lib>& libMembers() {
         addInitAppMembers(t);
         addResourceMembers(t);
         addTextFileMembers(t);
+        addWindowMembers(t);
         return t;
     }();
     return table;

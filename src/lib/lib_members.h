@@ -18,5 +18,6 @@ void addRegistryMembers(Table<lib>& table);
 void addFileMembers(Table<lib>& table);
 void addInitAppMembers(Table<lib>& table);
 void addResourceMembers(Table<lib>& table);
+void addWindowMembers(Table<lib>& table);
 
 } // namespace velkor6::dispatch

@@ -3,21 +3,24 @@
 #include "platform/posix/library_folder.h"
 #include "platform/posix/services.h"
 #include "platform/posix/window_manager.h"
+#include "platform/posix/x_display.h"
 #include "platform/posix/xml_service.h"
 
 namespace velkor6 {
 
 std::unique_ptr<Platform> Platform::createNative() {
     auto p = std::make_unique<Platform>();
+    // Opened by the first call that needs the display.
+    auto x = std::make_shared<posix::XConnection>();
     p->clock = posix::createClock();
     p->fileSystem = posix::createFileSystem();
     p->environment = posix::createEnvironment();
-    p->input = posix::createInputState();
-    p->ui = posix::createUserInterface();
+    p->input = posix::createInputState(x);
+    p->ui = posix::createUserInterface(x);
     p->shell = posix::createShell();
     p->registry = posix::createRegistry();
     p->fileStore = posix::createFileStore();
-    p->windowManager = posix::createWindowManager();
+    p->windowManager = posix::createWindowManager(x);
     p->xml = posix::createXmlService();
     p->libraryFolder = posix::libraryFolder();
     return p;

@@ -7,11 +7,16 @@
 
 namespace velkor6::posix {
 
+// The library's X connection (x_display.h); declared only, so that Xlib's macros stay out of
+// the files that include this one.
+class XConnection;
+
 std::unique_ptr<Clock> createClock();
 std::unique_ptr<FileSystem> createFileSystem();
 std::unique_ptr<Environment> createEnvironment();
-std::unique_ptr<InputState> createInputState();
-std::unique_ptr<UserInterface> createUserInterface();
+// Input and user interface share the library's X connection with the window manager.
+std::unique_ptr<InputState> createInputState(std::shared_ptr<XConnection> x);
+std::unique_ptr<UserInterface> createUserInterface(std::shared_ptr<XConnection> x);
 std::unique_ptr<Shell> createShell();
 
 } // namespace velkor6::posix

@@ -1,5 +1,6 @@
 #include "core/text.h"
 #include "platform/posix/services.h"
+#include "platform/posix/x_display.h"
 
 #include <iostream>
 
@@ -10,6 +11,8 @@ namespace {
 // so that batch runs never wait for a user.
 class PosixUserInterface final : public UserInterface {
 public:
+    explicit PosixUserInterface(std::shared_ptr<XConnection> x) : x_(std::move(x)) {}
+
     std::int32_t messageBox(std::u16string_view text, std::u16string_view title,
                             std::int32_t style) override {
         std::cerr << "[" << toUtf8(title) << "] " << toUtf8(text) << '\n';
@@ -17,13 +20,26 @@ public:
         return defaultButtonResult(style);
     }
 
-    void serveEvents() override {}
+    // The library's own X connection asks for no events; what arrives anyway is taken off the
+    // queue, and pending requests go out. A toolkit serves its own connection here as well.
+    void serveEvents() override {
+        Display* d = x_->openedDisplay();
+        if (d == nullptr)
+            return;
+        while (XPending(d) > 0) {
+            XEvent event;
+            XNextEvent(d, &event);
+        }
+    }
+
+private:
+    std::shared_ptr<XConnection> x_;
 };
 
 } // namespace
 
-std::unique_ptr<UserInterface> createUserInterface() {
-    return std::make_unique<PosixUserInterface>();
+std::unique_ptr<UserInterface> createUserInterface(std::shared_ptr<XConnection> x) {
+    return std::make_unique<PosixUserInterface>(std::move(x));
 }
 
 } // namespace velkor6::posix
