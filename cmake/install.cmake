@@ -16,7 +16,7 @@ if(VELKOR6_PROGRAM)
 endif()
 install(FILES ${PROJECT_SOURCE_DIR}/docs/members.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
-# A static velkor6 carries pugixml and X11 (libX11, libXext) in its link interface
+# A static velkor6 carries pugixml and X11 (libX11, libXext, libxcb) in its link interface
 # (src/platform); a shared one has them inside.
 get_target_property(velkor6_type velkor6 TYPE)
 if(NOT WIN32 AND velkor6_type STREQUAL "STATIC_LIBRARY")
@@ -58,9 +58,9 @@ endif()
 set(VELKOR6_PC_REQUIRES "")
 set(VELKOR6_PC_REQUIRES_PRIVATE "")
 if(VELKOR6_NEEDS_PUGIXML)
-  set(VELKOR6_PC_REQUIRES "pugixml x11 xext")
+  set(VELKOR6_PC_REQUIRES "pugixml x11 xext xcb")
 elseif(NOT WIN32)
-  set(VELKOR6_PC_REQUIRES_PRIVATE "pugixml x11 xext")
+  set(VELKOR6_PC_REQUIRES_PRIVATE "pugixml x11 xext xcb")
 endif()
 configure_file(${CMAKE_CURRENT_LIST_DIR}/velkor6.pc.in ${PROJECT_BINARY_DIR}/velkor6.pc.in @ONLY)
 install(CODE "configure_file(\"${PROJECT_BINARY_DIR}/velkor6.pc.in\"

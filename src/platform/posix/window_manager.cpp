@@ -10,7 +10,9 @@
 #include <array>
 #include <chrono>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -93,6 +95,7 @@ public:
     explicit X11WindowManager(std::shared_ptr<XConnection> x) : x_(std::move(x)) {}
 
     ~X11WindowManager() override {
+        std::free(error_);
         if (confine_) {
             XUngrabPointer(x_->openedDisplay(), CurrentTime);
             confine_.reset();
@@ -264,109 +267,58 @@ public:
         if (d == nullptr)
             return 0;
         // Each search from the top sees the tree as it is now.
-        siblings_.clear();
-        positions_.clear();
-        return firstChild(handleOf(DefaultRootWindow(d)));
+        forget();
+        const Window root = DefaultRootWindow(d);
+        fetch({root});
+        return firstChild(handleOf(root));
     }
 
     WindowHandle nextWindow(WindowHandle window) override {
-        Display* d = x_->display();
         const Window w = xWindow(window);
-        if (d == nullptr || w == None)
+        if (x_->display() == nullptr || w == None)
             return 0;
-        if (std::chrono::steady_clock::now() - cachedAt_ > cacheLife) {
-            siblings_.clear();
-            positions_.clear();
-        }
+        forgetWhenOld();
         auto it = positions_.find(w);
         if (it == positions_.end()) {
-            XErrorTrap trap(d);
-            Window root = None, up = None;
-            Window* children = nullptr;
-            unsigned int n = 0;
-            if (XQueryTree(d, w, &root, &up, &children, &n) == 0 || up == None)
+            // A window the walk has not met: its parent's children are read to find it.
+            const Window up = parentOf(w);
+            if (up == None)
                 return 0;
-            XMemory<Window> owned(children);
+            fetch({up});
             firstChild(handleOf(up));
             it = positions_.find(w);
             if (it == positions_.end())
                 return 0;
         }
-        const std::vector<Window>& row = siblings_[it->second.first];
+        const std::vector<Window>& row = known_[it->second.first].children;
         const std::size_t next = it->second.second + 1;
         return next < row.size() ? handleOf(row[next]) : 0;
     }
 
-    // XQueryTree lists children bottom to top; the library walks them top first. The list is
-    // kept for nextWindow, so that a walk asks the server once per window.
     WindowHandle firstChild(WindowHandle window) override {
-        Display* d = x_->display();
         const Window w = xWindow(window);
-        if (d == nullptr || w == None)
+        if (x_->display() == nullptr || w == None)
             return 0;
-        XErrorTrap trap(d);
-        Window root = None, up = None;
-        Window* children = nullptr;
-        unsigned int n = 0;
-        if (XQueryTree(d, w, &root, &up, &children, &n) == 0)
+        const Known& k = look(w);
+        if (k.children.empty())
             return 0;
-        XMemory<Window> owned(children);
-        if (n == 0)
-            return 0;
-        if (siblings_.empty())
-            cachedAt_ = std::chrono::steady_clock::now();
-        std::vector<Window>& row = siblings_[w];
-        row.assign(std::make_reverse_iterator(children + n), std::make_reverse_iterator(children));
-        for (std::size_t i = 0; i < row.size(); ++i)
-            positions_[row[i]] = {w, i};
-        return handleOf(row.front());
+        for (std::size_t i = 0; i < k.children.size(); ++i)
+            positions_[k.children[i]] = {w, i};
+        return handleOf(k.children.front());
     }
 
     std::u16string className(WindowHandle window) override {
-        Display* d = x_->display();
         const Window w = xWindow(window);
-        if (d == nullptr || w == None)
+        if (x_->display() == nullptr || w == None)
             return {};
-        XErrorTrap trap(d);
-        XClassHint hint{nullptr, nullptr};
-        if (XGetClassHint(d, w, &hint) == 0)
-            return {};
-        XMemory<char> name(hint.res_name);
-        XMemory<char> cls(hint.res_class);
-        return cls ? cut(fromLatin1(cls.get())) : std::u16string();
+        return look(w).className;
     }
 
     std::u16string caption(WindowHandle window) override {
-        Display* d = x_->display();
         const Window w = xWindow(window);
-        if (d == nullptr || w == None)
+        if (x_->display() == nullptr || w == None)
             return {};
-        XErrorTrap trap(d);
-        Atom type = None;
-        int format = 0;
-        unsigned long count = 0, after = 0;
-        unsigned char* data = nullptr;
-        if (XGetWindowProperty(d, w, x_->atom("_NET_WM_NAME"), 0, 1024, False,
-                               x_->atom("UTF8_STRING"), &type, &format, &count, &after,
-                               &data) == Success) {
-            XMemory<unsigned char> owned(data);
-            if (type == x_->atom("UTF8_STRING") && format == 8 && data != nullptr)
-                return cut(fromUtf8(std::string_view(reinterpret_cast<char*>(data), count)));
-        }
-        XTextProperty text{nullptr, None, 0, 0};
-        if (XGetWMName(d, w, &text) == 0)
-            return {};
-        XMemory<unsigned char> textValue(text.value);
-        char** list = nullptr;
-        int n = 0;
-        if (text.value == nullptr || Xutf8TextPropertyToTextList(d, &text, &list, &n) < Success)
-            return {};
-        std::string joined;
-        for (int i = 0; i < n; ++i)
-            joined += list[i];
-        if (list != nullptr)
-            XFreeStringList(list);
-        return cut(fromUtf8(joined));
+        return look(w).caption;
     }
 
     WindowHandle foregroundWindow() override {
@@ -479,7 +431,151 @@ public:
     }
 
 private:
+    // What the walk knows of a window: read for a whole row of siblings at once.
+    struct Known {
+        std::u16string className;
+        std::u16string caption;
+        std::vector<Window> children; // top first
+    };
+
+    // A walk that runs longer than this reads the tree again, so that a window that came or
+    // went since is seen as it is.
     static constexpr std::chrono::milliseconds cacheLife{500};
+
+    void forget() {
+        known_.clear();
+        positions_.clear();
+        cachedAt_ = std::chrono::steady_clock::now();
+    }
+    void forgetWhenOld() {
+        if (std::chrono::steady_clock::now() - cachedAt_ > cacheLife)
+            forget();
+    }
+
+    // The window's class, caption and children; with it those of all its siblings, which the
+    // walk asks for next.
+    const Known& look(Window w) {
+        forgetWhenOld();
+        if (const auto it = known_.find(w); it != known_.end())
+            return it->second;
+        if (const auto at = positions_.find(w); at != positions_.end())
+            fetch(known_[at->second.first].children);
+        if (known_.find(w) == known_.end())
+            fetch({w});
+        return known_[w];
+    }
+
+    // Class, caption and children of the windows not known yet: every request is sent before the
+    // first reply is read, so that a row costs about one round trip however long it is. A window
+    // that vanished meanwhile answers errors, and is known with nothing.
+    void fetch(const std::vector<Window>& windows) {
+        xcb_connection_t* c = x_->batch();
+        if (c == nullptr)
+            return;
+        struct Asked {
+            Window window;
+            xcb_get_property_cookie_t netName, name, wmClass;
+            xcb_query_tree_cookie_t tree;
+        };
+        const auto netName = static_cast<xcb_atom_t>(x_->atom("_NET_WM_NAME"));
+        const auto utf8 = static_cast<xcb_atom_t>(x_->atom("UTF8_STRING"));
+        std::vector<Asked> asked;
+        asked.reserve(windows.size());
+        for (const Window w : windows) {
+            if (known_.count(w) != 0)
+                continue;
+            const auto id = static_cast<xcb_window_t>(w);
+            asked.push_back(
+                {w, xcb_get_property(c, 0, id, netName, utf8, 0, 1024),
+                 xcb_get_property(c, 0, id, XCB_ATOM_WM_NAME, XCB_GET_PROPERTY_TYPE_ANY, 0, 1024),
+                 xcb_get_property(c, 0, id, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 0, 256),
+                 xcb_query_tree(c, id)});
+        }
+        for (const Asked& a : asked) {
+            Known k;
+            const Reply<xcb_get_property_reply_t> net(
+                xcb_get_property_reply(c, a.netName, errorSlot()));
+            const Reply<xcb_get_property_reply_t> name(
+                xcb_get_property_reply(c, a.name, errorSlot()));
+            const Reply<xcb_get_property_reply_t> cls(
+                xcb_get_property_reply(c, a.wmClass, errorSlot()));
+            const Reply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(c, a.tree, errorSlot()));
+            if (net && net->type == utf8 && net->format == 8)
+                k.caption = cut(fromUtf8(bytes(net.get())));
+            else if (name && name->format == 8 && name->type != XCB_ATOM_NONE)
+                k.caption = cut(decodeName(name.get()));
+            if (cls && cls->format == 8) {
+                // "instance\0class\0": the class part.
+                const std::string_view both = bytes(cls.get());
+                const std::size_t nul = both.find('\0');
+                if (nul != std::string_view::npos) {
+                    std::string part(both.substr(nul + 1));
+                    part = part.substr(0, part.find('\0'));
+                    k.className = cut(fromLatin1(part.c_str()));
+                }
+            }
+            if (tree) {
+                const xcb_window_t* children = xcb_query_tree_children(tree.get());
+                const int n = xcb_query_tree_children_length(tree.get());
+                k.children.assign(std::make_reverse_iterator(children + n),
+                                  std::make_reverse_iterator(children));
+            }
+            known_[a.window] = std::move(k);
+        }
+    }
+
+    template <class T>
+    struct FreeReply {
+        void operator()(T* p) const { std::free(p); }
+    };
+    template <class T>
+    using Reply = std::unique_ptr<T, FreeReply<T>>;
+
+    // Errors come back with the replies and are dropped: the window is gone, or never was one.
+    xcb_generic_error_t** errorSlot() {
+        std::free(error_);
+        error_ = nullptr;
+        return &error_;
+    }
+
+    static std::string_view bytes(xcb_get_property_reply_t* reply) {
+        return {static_cast<const char*>(xcb_get_property_value(reply)),
+                static_cast<std::size_t>(xcb_get_property_value_length(reply))};
+    }
+
+    // WM_NAME in whatever encoding the program chose (Latin-1, UTF-8 or compound text).
+    std::u16string decodeName(xcb_get_property_reply_t* reply) {
+        const std::string text(bytes(reply));
+        if (reply->type == XCB_ATOM_STRING)
+            return fromLatin1(text.c_str());
+        if (reply->type == static_cast<xcb_atom_t>(x_->atom("UTF8_STRING")))
+            return fromUtf8(text);
+        XTextProperty property{reinterpret_cast<unsigned char*>(const_cast<char*>(text.c_str())),
+                               static_cast<Atom>(reply->type), 8,
+                               static_cast<unsigned long>(text.size())};
+        char** list = nullptr;
+        int n = 0;
+        if (Xutf8TextPropertyToTextList(x_->display(), &property, &list, &n) < Success)
+            return {};
+        std::string joined;
+        for (int i = 0; i < n; ++i)
+            joined += list[i];
+        if (list != nullptr)
+            XFreeStringList(list);
+        return fromUtf8(joined);
+    }
+
+    Window parentOf(Window w) {
+        Display* d = x_->display();
+        XErrorTrap trap(d);
+        Window root = None, up = None;
+        Window* children = nullptr;
+        unsigned int n = 0;
+        if (XQueryTree(d, w, &root, &up, &children, &n) == 0)
+            return None;
+        XMemory<Window> owned(children);
+        return up;
+    }
 
     // Up to `count` 32-bit items of a property (as longs, as Xlib gives them).
     static std::vector<long> cardinals(Display* d, Window w, Atom property, long count,
@@ -570,10 +666,11 @@ private:
     }
 
     std::shared_ptr<XConnection> x_;
-    // The children of the windows a walk has looked into, top first, and where each child sits.
-    std::unordered_map<Window, std::vector<Window>> siblings_;
+    // What the current walk has read, and where each window it met sits among its siblings.
+    std::unordered_map<Window, Known> known_;
     std::unordered_map<Window, std::pair<Window, std::size_t>> positions_;
     std::chrono::steady_clock::time_point cachedAt_;
+    xcb_generic_error_t* error_ = nullptr;
     std::unique_ptr<OwnWindow> confine_;
 };
 

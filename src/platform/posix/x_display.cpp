@@ -15,6 +15,21 @@ void XConnection::Closer::operator()(Display* d) const {
     XCloseDisplay(d);
 }
 
+void XConnection::Closer::operator()(xcb_connection_t* c) const {
+    xcb_disconnect(c);
+}
+
+xcb_connection_t* XConnection::batch() {
+    if (!triedBatch_ && display() != nullptr) {
+        triedBatch_ = true;
+        batch_.reset(xcb_connect(DisplayString(display_.get()), nullptr));
+        // A failed connection is an object too, one that answers nothing.
+        if (batch_ && xcb_connection_has_error(batch_.get()) != 0)
+            batch_.reset();
+    }
+    return batch_.get();
+}
+
 Display* XConnection::display() {
     if (!tried_) {
         tried_ = true;

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <xcb/xcb.h>
 
 namespace velkor6::posix {
 
@@ -23,12 +24,18 @@ public:
     Display* openedDisplay() const { return display_.get(); }
     // The atom of a name, asked from the server once.
     Atom atom(const char* name);
+    // A second connection to the same server, for requests sent many at a time before their
+    // replies are read (the window tree walk); nullptr when there is no display.
+    xcb_connection_t* batch();
 
 private:
     struct Closer {
         void operator()(Display* d) const;
+        void operator()(xcb_connection_t* c) const;
     };
     std::unique_ptr<Display, Closer> display_;
+    std::unique_ptr<xcb_connection_t, Closer> batch_;
+    bool triedBatch_ = false;
     bool tried_ = false;
     std::unordered_map<std::string, Atom> atoms_;
 };
