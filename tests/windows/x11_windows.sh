@@ -91,9 +91,22 @@ for mode in plain jwm; do
     y=$(sed -n 's/.*Absolute upper-left Y: *//p' <<<"$geometry")
     w=$(sed -n 's/.*Width: *//p' <<<"$geometry")
     h=$(sed -n 's/.*Height: *//p' <<<"$geometry")
-    ow=$((w + l + r)) oh=$((h + t + b))
+    bw=$(sed -n 's/.*Border width: *//p' <<<"$geometry")
+    # xwininfo's position is the border's outer corner; the outer size has frame and border.
+    ow=$((w + 2 * bw + l + r)) oh=$((h + 2 * bw + t + b))
     want_x=$(((1024 - ow) / 2 + l)) want_y=$(((768 - t - oh) / 2 + t))
     [ "$x,$y" == "$want_x,$want_y" ] && ok || fail "centred at $x,$y, expected $want_x,$want_y"
+
+    # The position remembered and restored (outer rectangle in twips, 15 per pixel).
+    "$bin" --app x11test --app-path "$work" call saveWindowPos "$hwnd" frmTest
+    grep -q "^Left=$(((x - l) * 15))" "$work/x11test.ini" && ok || fail "saved: $(tr '\n' ' ' <"$work/x11test.ini")"
+    xdotool windowmove "$hwnd" 30 20
+    sleep 0.3
+    "$bin" --app x11test --app-path "$work" call loadWindowPos "$hwnd" frmTest
+    sleep 0.3
+    back=$(xwininfo -id "$hwnd" | sed -n 's/.*Absolute upper-left X: *//p')
+    [ "$back" == "$x" ] && ok || fail "restored at x $back, expected $x"
+    rm -f "$work/x11test.ini"
     if [ $mode = jwm ]; then
         xprop -id "$hwnd" _NET_WM_STATE | grep -q _NET_WM_STATE_ABOVE && ok ||
             fail "not _NET_WM_STATE_ABOVE"

@@ -157,7 +157,7 @@ public:
         auto r = ownRect(d, xWindow(window));
         if (!r)
             return std::nullopt;
-        const Extents e = extents(d, xWindow(window));
+        const Extents e = margins(d, xWindow(window));
         return WindowRect{static_cast<std::int32_t>(r->left - e.left),
                           static_cast<std::int32_t>(r->top - e.top),
                           static_cast<std::int32_t>(r->right + e.right),
@@ -172,8 +172,9 @@ public:
         return ownRect(d, xWindow(window));
     }
 
-    // x and y place the outer corner (frame included): with the usual north-west gravity the
-    // window manager puts its frame there. Width and height are outer sizes too.
+    // x and y place the outer corner (frame and border included): X places the border's corner
+    // there, and with the usual north-west gravity the window manager puts its frame there.
+    // Width and height are outer sizes too.
     bool setPosition(WindowHandle window, WindowHandle insertAfter, std::int32_t x, std::int32_t y,
                      std::int32_t width, std::int32_t height, std::uint32_t flags) override {
         Display* d = x_->display();
@@ -184,7 +185,7 @@ public:
         XWindowAttributes attributes;
         if (XGetWindowAttributes(d, w, &attributes) == 0)
             return false;
-        const Extents e = extents(d, w);
+        const Extents e = margins(d, w);
         if ((flags & swp::noMove) == 0)
             XMoveWindow(d, w, x, y);
         if ((flags & swp::noSize) == 0)
@@ -362,8 +363,8 @@ public:
         return true;
     }
 
-    // The area is measured from the outer corner (frame included); the shape is the client
-    // window's, so the frame's share is taken off.
+    // The area is measured from the outer corner (frame and border included); the shape is the
+    // client window's, measured from its inside, so their share is taken off.
     bool setRoundedShape(WindowHandle window, const WindowRect& area, std::int32_t ellipseWidth,
                          std::int32_t ellipseHeight) override {
         Display* d = x_->display();
@@ -372,7 +373,7 @@ public:
         if (d == nullptr || w == None || XShapeQueryExtension(d, &event, &error) == 0)
             return false;
         XErrorTrap trap(d, XErrorTrap::Sync::yes);
-        const Extents e = extents(d, w);
+        const Extents e = margins(d, w);
         WindowRect own = area;
         own.left -= static_cast<std::int32_t>(e.left);
         own.right -= static_cast<std::int32_t>(e.left);
@@ -613,7 +614,21 @@ private:
         return {e[0], e[1], e[2], e[3]};
     }
 
-    // The window's own rectangle (without frame) in root coordinates.
+    // The frame extents plus the window's own border: what lies between the outer rectangle and
+    // the window's inside.
+    Extents margins(Display* d, Window w) {
+        Extents e = extents(d, w);
+        XWindowAttributes attributes;
+        if (w != None && XGetWindowAttributes(d, w, &attributes) != 0) {
+            e.left += attributes.border_width;
+            e.right += attributes.border_width;
+            e.top += attributes.border_width;
+            e.bottom += attributes.border_width;
+        }
+        return e;
+    }
+
+    // The window's own rectangle (inside frame and border) in root coordinates.
     static std::optional<WindowRect> ownRect(Display* d, Window w) {
         if (w == None)
             return std::nullopt;
