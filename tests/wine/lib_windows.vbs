@@ -10,7 +10,11 @@ Class Form
     Public Enabled
 End Class
 Class FormList
-    Private items(1)
+    ' Wine's VBScript takes no array bounds in a class's declarations.
+    Private items
+    Private Sub Class_Initialize()
+        ReDim items(1)
+    End Sub
     Public Property Get Count()
         Count = 2
     End Property
