@@ -403,8 +403,9 @@ void addWindowMembers(Table<lib>& t) {
          u"hSecondWnd's; hwnd 0 releases it.",
          u"Two windows that do not overlap give an empty or inverted area, which the system "
          u"interprets. X11: an active pointer grab confined to an input-only window over the "
-         u"area (at least 1 by 1 pixel); while it lasts other programs get no pointer events, and "
-         u"it ends when the calling process ends or another program grabs the pointer."});
+         u"area (at least 1 by 1 pixel); while it lasts other programs get no pointer events. It "
+         u"ends with the next call or with the calling process, and fails while another program "
+         u"holds a grab."});
     t.push_back({92,
                  u"vkrGetFrameSize",
                  CallKind::Method,

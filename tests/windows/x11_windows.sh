@@ -116,6 +116,9 @@ for mode in plain jwm; do
         expect frame-size 0 vkrGetFrameSize "$hwnd"
     fi
 
+    expect internal-size "$(printf "tSize.CX = %d&\ntSize.CY = %d&" $((w * 15)) $((h * 15)))" \
+        vkrGetInternalFormSize "$hwnd" 0
+    expect clip-cursor "" vkrClipCursor "$hwnd"
     "$bin" call vkrRoundWindow "$hwnd" 20 20 >/dev/null
     xwininfo -shape -id "$hwnd" | grep -q 'Window shape extents' && ok || fail "not shaped"
 
