@@ -22,12 +22,12 @@ endif()
 install(FILES ${PROJECT_SOURCE_DIR}/docs/members.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
   COMPONENT program)
 
-# A static velkor6 carries pugixml in its link interface (src/platform); a shared one has it
-# inside, its symbols hidden.
+# A static velkor6 carries pugixml and X11 (libX11, libXext, libxcb) in its link interface
+# (src/platform); a shared one has them inside.
 get_target_property(velkor6_type velkor6 TYPE)
 if(NOT WIN32 AND velkor6_type STREQUAL "STATIC_LIBRARY")
   set(VELKOR6_FIND_DEPENDENCIES
-      "# The static library links pugixml::static.\nfind_dependency(pugixml)\n")
+      "# The static library links pugixml::static and X11.\nfind_dependency(pugixml)\nfind_dependency(X11)\n")
 else()
   set(VELKOR6_FIND_DEPENDENCIES "")
 endif()
@@ -68,7 +68,7 @@ endif()
 if(WIN32)
   set(VELKOR6_PC_REQUIRES_PRIVATE "")
 else()
-  set(VELKOR6_PC_REQUIRES_PRIVATE pugixml)
+  set(VELKOR6_PC_REQUIRES_PRIVATE "pugixml x11 xext xcb")
 endif()
 configure_file(${CMAKE_CURRENT_LIST_DIR}/velkor6.pc.in ${PROJECT_BINARY_DIR}/velkor6.pc.in @ONLY)
 install(CODE "configure_file(\"${PROJECT_BINARY_DIR}/velkor6.pc.in\"

@@ -4,6 +4,7 @@
 set -euo pipefail
 
 packages=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev libpugixml-dev pkgconf libfontconfig-dev
+          libx11-dev libxext-dev libxcb1-dev
           # The Qt dialog host: qt6-base-dev to build it; at run time the widgets, the xcb platform
           # plugin (only recommended by libqt6gui6, so named here) and a font.
           qt6-base-dev libqt6widgets6 qt6-qpa-plugins fonts-dejavu-core

@@ -12,7 +12,9 @@ if [ "$windows" != 0 ]; then
     windowsPackages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine xvfb
                      x11-apps imagemagick wine64 libwine)
 fi
-scripts/deps.sh "${windowsPackages[@]}"
+# The X11 window tests: a private X server, a window manager, a window to find, and tools that
+# press keys and read window properties.
+scripts/deps.sh xvfb jwm x11-apps x11-utils xdotool "${windowsPackages[@]}"
 # 32-bit Wine comes from another architecture's package lists, which a mirror may not serve at
 # the moment: without it the 32-bit build is built and linked but not run.
 x86Tests=0

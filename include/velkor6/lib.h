@@ -230,6 +230,39 @@ public:
     void vkrHideMessage();
     // Sets oSource's MousePointer to the hourglass (true) or the default pointer (false).
     void vkrShowWaitLet(const ObjectRef& oSource, bool value);
+    // --- Window lookup, waiting and z-order ------------------------------------------------
+    // Window handles are any program's windows: Win32 HWNDs on Windows, X window ids on X11.
+    std::int32_t vkrFindWindow(std::int32_t lTopHwnd, std::u16string_view lpClassName,
+                               std::u16string_view lpClassCaption, bool bFindNext = false);
+    // ParentForm (Nothing when not given) answers Enabled.
+    bool vkrWaitForClassStarted(std::u16string_view sClassName, std::u16string_view sClassCaption,
+                                std::int32_t lMaxSeconds = 300, const ObjectRef& ParentForm = {});
+    bool vkrWaitForClassFinished(std::u16string_view sClassName, std::u16string_view sClassCaption,
+                                 std::int32_t lMaxSeconds = 300, const ObjectRef& ParentForm = {});
+    void vkrWait(std::int32_t lMilliSeconds, bool bIsActive = true);
+    void vkrTopMost(std::int32_t lTopMost);
+    void vkrOpenTopMost(std::int32_t lTopMost, bool bCenter = false);
+    void vkrOpenApplicationTopMost(std::int32_t lTopMost, std::int32_t lAppHwnd,
+                                   bool bCenter = false);
+    void vkrApplicationTopMost(std::int32_t lhWndClient, std::int32_t lHWndParent = 0);
+    // oForms answers Count and its default member with a 0-based index; each form answers Name.
+    // oForm, when given, receives the form found and is left alone otherwise.
+    bool vkrIsFormOpen(const ObjectRef& oForms, std::u16string_view strFormName,
+                       Variant* oForm = nullptr);
+
+    // --- Window shape, screen metrics and input state -------------------------------------
+    void vkrRoundWindow(std::int32_t hwnd, std::int32_t lX, std::int32_t lY,
+                        std::int32_t lXOffset = 0, std::int32_t lYOffset = 0);
+    void vkrWindowShadow(std::int32_t hwnd);
+    void vkrClipCursor(std::int32_t hwnd = 0, std::int32_t hSecondWnd = 0);
+    std::int32_t vkrGetFrameSize(std::int32_t lHwnd);
+    std::int32_t vkrGetMenuHeight();
+    std::int32_t vkrGetScreenHeight();
+    std::int32_t vkrGetScreenWidth();
+    // tSize is left alone for handle 0.
+    void vkrGetInternalFormSize(std::int32_t lHwnd, SIZE& tSize);
+    bool vkrIsKeyDown(std::int32_t lKey);
+    bool vkrIsMouseButtonDown(std::int16_t lButton);
 
 private:
     std::shared_ptr<Module> module_;

@@ -1,6 +1,7 @@
 // Public records (user-defined types) of the type library.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace velkor6 {
@@ -18,6 +19,12 @@ struct typFileInfo {
 struct typCmdParam {
     std::u16string Name;
     std::u16string value;
+};
+
+// A size (vkrGetInternalFormSize gives it in twips).
+struct SIZE {
+    std::int32_t CX = 0;
+    std::int32_t CY = 0;
 };
 
 } // namespace velkor6

@@ -17,6 +17,7 @@ const Table<lib>& libMembers() {
         addDialogMembers(t);
         addBracketMembers(t);
         addValueCodeMembers(t);
+        addWindowMembers(t);
         return t;
     }();
     return table;

@@ -21,5 +21,6 @@ void addResourceMembers(Table<lib>& table);
 void addDialogMembers(Table<lib>& table);
 void addBracketMembers(Table<lib>& table);
 void addValueCodeMembers(Table<lib>& table);
+void addWindowMembers(Table<lib>& table);
 
 } // namespace velkor6::dispatch

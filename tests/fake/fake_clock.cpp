@@ -10,7 +10,13 @@ FakeClock::FakeClock() : now_(makeDate({2024, 3, 15, 10, 30, 0})) {}
 
 double FakeClock::secondsSinceMidnight() const {
     const double day = std::floor(now_.serial);
-    return std::round((now_.serial - day) * 86400.0 * 1000.0) / 1000.0;
+    const double seconds = std::round((now_.serial - day) * 86400.0 * 1000.0) / 1000.0;
+    now_.serial += step_ / 86400.0;
+    return seconds;
+}
+
+void FakeClock::setSecondsSinceMidnight(double seconds) {
+    now_.serial = std::floor(now_.serial) + seconds / 86400.0;
 }
 
 void FakeClock::sleep(std::chrono::milliseconds duration) {

@@ -1,4 +1,5 @@
-// A clock that stands still until a test moves it.
+// A clock that stands still until a test moves it, or that moves on by a step at every reading
+// of the seconds since midnight (so that loops watching it end).
 #pragma once
 
 #include "velkor6/platform/clock.h"
@@ -16,10 +17,14 @@ public:
     void sleep(std::chrono::milliseconds duration) override;
 
     void set(Date now) { now_ = now; }
+    // Today at this many seconds after midnight.
+    void setSecondsSinceMidnight(double seconds);
     void advance(double seconds);
+    void setReadStep(double seconds) { step_ = seconds; }
 
 private:
-    Date now_;
+    mutable Date now_;
+    double step_ = 0;
 };
 
 } // namespace velkor6::fake

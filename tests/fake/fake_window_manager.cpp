@@ -19,7 +19,97 @@ std::int64_t distance(const WindowRect& r, std::int32_t x, std::int32_t y) {
 } // namespace
 
 FakeWindowManager::Window& FakeWindowManager::addWindow(WindowHandle handle, Window window) {
+    if (windows_.count(handle) == 0)
+        order_.push_back(handle);
     return windows_[handle] = std::move(window);
+}
+
+void FakeWindowManager::removeWindow(WindowHandle handle) {
+    windows_.erase(handle);
+    order_.erase(std::remove(order_.begin(), order_.end(), handle), order_.end());
+}
+
+WindowHandle FakeWindowManager::firstWithParent(WindowHandle parent, std::size_t from) const {
+    for (std::size_t i = from; i < order_.size(); ++i) {
+        if (windows_.at(order_[i]).parent == parent)
+            return order_[i];
+    }
+    return 0;
+}
+
+WindowHandle FakeWindowManager::topWindow() {
+    ++searches_;
+    if (onSearch_)
+        onSearch_(searches_);
+    return firstWithParent(0, 0);
+}
+
+WindowHandle FakeWindowManager::nextWindow(WindowHandle window) {
+    const auto it = std::find(order_.begin(), order_.end(), window);
+    if (it == order_.end())
+        return 0;
+    return firstWithParent(windows_.at(window).parent,
+                           static_cast<std::size_t>(it - order_.begin()) + 1);
+}
+
+WindowHandle FakeWindowManager::firstChild(WindowHandle window) {
+    return find(window) == nullptr ? 0 : firstWithParent(window, 0);
+}
+
+std::u16string FakeWindowManager::className(WindowHandle window) {
+    const Window* w = find(window);
+    return w == nullptr ? std::u16string() : w->className;
+}
+
+std::u16string FakeWindowManager::caption(WindowHandle window) {
+    const Window* w = find(window);
+    return w == nullptr ? std::u16string() : w->caption;
+}
+
+bool FakeWindowManager::setTopMost(WindowHandle window) {
+    Window* w = find(window);
+    if (w == nullptr)
+        return false;
+    w->topMost = true;
+    return true;
+}
+
+bool FakeWindowManager::setOwner(WindowHandle window, WindowHandle owner) {
+    Window* w = find(window);
+    if (w == nullptr)
+        return false;
+    w->style |= winstyle::popup;
+    w->owner = owner;
+    return true;
+}
+
+bool FakeWindowManager::setRoundedShape(WindowHandle window, const WindowRect& area,
+                                        std::int32_t ellipseWidth, std::int32_t ellipseHeight) {
+    Window* w = find(window);
+    if (w == nullptr)
+        return false;
+    w->shape = Window::Shape{area, ellipseWidth, ellipseHeight};
+    return true;
+}
+
+bool FakeWindowManager::addClassDropShadow(WindowHandle window) {
+    Window* w = find(window);
+    if (w == nullptr)
+        return false;
+    w->classShadow = true;
+    return true;
+}
+
+std::optional<WindowRect> FakeWindowManager::clientRect(WindowHandle window) {
+    const Window* w = find(window);
+    if (w == nullptr)
+        return std::nullopt;
+    return w->client.value_or(w->rect);
+}
+
+bool FakeWindowManager::confinePointer(std::optional<WindowRect> area) {
+    confinements_.push_back(area);
+    return true;
 }
 
 void FakeWindowManager::addMonitor(WindowRect bounds, WindowRect work) {

@@ -1,11 +1,13 @@
 // Window-manager service: the caller's windows by handle, their styles and rectangles, the
-// monitors' work areas and window messages.
+// monitors' work areas and window messages; the window tree of all programs, z-order, owners,
+// shapes, frame metrics and pointer confinement.
 #pragma once
 
 #include "velkor6/export.h"
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
 namespace velkor6 {
 
@@ -28,6 +30,11 @@ namespace winstyle {
 inline constexpr std::uint32_t maximize = 0x01000000;
 inline constexpr std::uint32_t minimize = 0x20000000;
 inline constexpr std::uint32_t child = 0x40000000;
+inline constexpr std::uint32_t popup = 0x80000000;
+inline constexpr std::uint32_t border = 0x00800000;
+inline constexpr std::uint32_t dlgFrame = 0x00400000;
+// A title bar: border and dialog frame together.
+inline constexpr std::uint32_t caption = border | dlgFrame;
 } // namespace winstyle
 
 // Flags of setPosition (SetWindowPosConstants).
@@ -45,6 +52,13 @@ inline constexpr std::int32_t normal = 1;
 inline constexpr std::int32_t maximize = 3;
 inline constexpr std::int32_t minimize = 6;
 } // namespace showcmd
+
+// Window-frame sizes in pixels, as the system draws them (SystemMetricsConstants).
+struct FrameMetrics {
+    std::int32_t sizingFrame = 0; // SM_CYFRAME: the frame of a resizable window
+    std::int32_t dialogFrame = 0; // SM_CYDLGFRAME: the frame of a window with a caption
+    std::int32_t titleButton = 0; // SM_CYSIZE: a title-bar button (about the title's height)
+};
 
 struct TwipsPerPixel {
     std::int32_t x = 15;
@@ -80,6 +94,45 @@ public:
     virtual std::int32_t screenHeight() = 0;
     // The screen's twips per pixel (1440 divided by the dots per inch), as VB's Screen gives it.
     virtual TwipsPerPixel twipsPerPixel() = 0;
+
+    // --- The window tree of all programs, top of the z-order first ----------------------
+    // The top-most top-level window of the desktop; 0 when there is none.
+    virtual WindowHandle topWindow() = 0;
+    // The window just below this one among its siblings; 0 after the last one.
+    virtual WindowHandle nextWindow(WindowHandle window) = 0;
+    // The top-most child of the window; 0 when it has none.
+    virtual WindowHandle firstChild(WindowHandle window) = 0;
+    // The class name and the caption (title) of any program's window, at most 255 characters
+    // each; "" for a handle that is no window.
+    virtual std::u16string className(WindowHandle window) = 0;
+    virtual std::u16string caption(WindowHandle window) = 0;
+    // The window the user is working in; 0 when the system cannot tell.
+    virtual WindowHandle foregroundWindow() = 0;
+
+    // --- Z-order and owners --------------------------------------------------------------
+    // Keeps the window above all windows that are not top-most themselves, without
+    // activating, moving or sizing it.
+    virtual bool setTopMost(WindowHandle window) = 0;
+    // Makes the window a pop-up owned by owner: it then stays above that window only.
+    virtual bool setOwner(WindowHandle window, WindowHandle owner) = 0;
+
+    // --- Shape, frames and the pointer ---------------------------------------------------
+    // Cuts the window to a rounded rectangle: area in coordinates relative to the window's
+    // top-left corner, corners an ellipse of the given width and height (0 and 0: square).
+    // The window system owns the shape from then on.
+    virtual bool setRoundedShape(WindowHandle window, const WindowRect& area,
+                                 std::int32_t ellipseWidth, std::int32_t ellipseHeight) = 0;
+    // Gives the window's class a drop shadow, for the windows created after it too; false
+    // where the window system has no such class bit.
+    virtual bool addClassDropShadow(WindowHandle window) = 0;
+    // The client area (inside frame and title) in screen pixels; nullopt for no window.
+    virtual std::optional<WindowRect> clientRect(WindowHandle window) = 0;
+    // Confines the pointer to the area (screen pixels; an empty or inverted area is the
+    // system's to interpret); nullopt releases it.
+    virtual bool confinePointer(std::optional<WindowRect> area) = 0;
+    // The frame sizes. Where every window may have its own frame (X11, the window manager
+    // draws it), those of the given window, or of the active window for 0.
+    virtual FrameMetrics frameMetrics(WindowHandle window) = 0;
 };
 
 } // namespace velkor6

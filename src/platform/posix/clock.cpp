@@ -1,8 +1,9 @@
-#include <ctime>
-#include <thread>
+#include "velkor6/platform/clock.h"
 
 #include "platform/posix/services.h"
-#include "velkor6/platform/clock.h"
+
+#include <ctime>
+#include <thread>
 
 namespace velkor6 {
 namespace {

@@ -1,5 +1,6 @@
 #include "core/text.h"
 #include "platform/posix/services.h"
+#include "platform/posix/x_display.h"
 
 #include <iostream>
 
@@ -10,7 +11,8 @@ namespace {
 // so that batch runs never wait for a user.
 class PosixUserInterface final : public UserInterface {
 public:
-    explicit PosixUserInterface(DialogHost& dialogs) : dialogs_(dialogs) {}
+    PosixUserInterface(std::shared_ptr<XConnection> x, DialogHost& dialogs)
+        : x_(std::move(x)), dialogs_(dialogs) {}
 
     std::int32_t messageBox(std::u16string_view text, std::u16string_view title,
                             std::int32_t style) override {
@@ -19,16 +21,29 @@ public:
         return defaultButtonResult(style);
     }
 
-    void serveEvents() override { dialogs_.serveEvents(); }
+    // The library's own X connection asks for no events; what arrives anyway is taken off the
+    // queue, and pending requests go out. The dialog host serves its toolkit's connection.
+    void serveEvents() override {
+        dialogs_.serveEvents();
+        Display* d = x_->openedDisplay();
+        if (d == nullptr)
+            return;
+        while (XPending(d) > 0) {
+            XEvent event;
+            XNextEvent(d, &event);
+        }
+    }
 
 private:
+    std::shared_ptr<XConnection> x_;
     DialogHost& dialogs_;
 };
 
 } // namespace
 
-std::unique_ptr<UserInterface> createUserInterface(DialogHost& dialogs) {
-    return std::make_unique<PosixUserInterface>(dialogs);
+std::unique_ptr<UserInterface> createUserInterface(std::shared_ptr<XConnection> x,
+                                                   DialogHost& dialogs) {
+    return std::make_unique<PosixUserInterface>(std::move(x), dialogs);
 }
 
 } // namespace velkor6::posix

@@ -1,6 +1,7 @@
 // The caller's windows and the screen through user32.
 #include "platform/win32/services.h"
 
+#include <string>
 #include <windows.h>
 
 namespace velkor6::win32 {
@@ -84,6 +85,84 @@ public:
         if (dpiY > 0)
             t.y = 1440 / dpiY;
         return t;
+    }
+
+    WindowHandle topWindow() override { return handleOf(GetTopWindow(GetDesktopWindow())); }
+    WindowHandle nextWindow(WindowHandle window) override {
+        return handleOf(GetWindow(windowOf(window), GW_HWNDNEXT));
+    }
+    WindowHandle firstChild(WindowHandle window) override {
+        return handleOf(GetWindow(windowOf(window), GW_CHILD));
+    }
+
+    // The wide functions: the ANSI ones' texts for every character the code page holds, and
+    // the other characters as well.
+    std::u16string className(WindowHandle window) override {
+        wchar_t buffer[256];
+        const int n = GetClassNameW(windowOf(window), buffer, 256);
+        return std::u16string(reinterpret_cast<const char16_t*>(buffer), n > 0 ? n : 0);
+    }
+    std::u16string caption(WindowHandle window) override {
+        wchar_t buffer[256];
+        const int n = GetWindowTextW(windowOf(window), buffer, 256);
+        return std::u16string(reinterpret_cast<const char16_t*>(buffer), n > 0 ? n : 0);
+    }
+    WindowHandle foregroundWindow() override { return handleOf(GetForegroundWindow()); }
+
+    bool setTopMost(WindowHandle window) override {
+        return SetWindowPos(windowOf(window), HWND_TOPMOST, 0, 0, 0, 0,
+                            SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
+    }
+
+    bool setOwner(WindowHandle window, WindowHandle owner) override {
+        const HWND w = windowOf(window);
+        SetWindowLongW(
+            w, GWL_STYLE,
+            static_cast<LONG>(static_cast<DWORD>(GetWindowLongW(w, GWL_STYLE)) | WS_POPUP));
+        SetWindowLongPtrW(w, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(windowOf(owner)));
+        return true;
+    }
+
+    bool setRoundedShape(WindowHandle window, const WindowRect& area, std::int32_t ellipseWidth,
+                         std::int32_t ellipseHeight) override {
+        const HRGN region = CreateRoundRectRgn(area.left, area.top, area.right, area.bottom,
+                                               ellipseWidth, ellipseHeight);
+        if (region == nullptr)
+            return false;
+        // The window owns the region once it is set; otherwise it is still ours to free.
+        if (SetWindowRgn(windowOf(window), region, TRUE) == 0) {
+            DeleteObject(region);
+            return false;
+        }
+        return true;
+    }
+
+    bool addClassDropShadow(WindowHandle window) override {
+        const HWND w = windowOf(window);
+        const DWORD style = GetClassLongW(w, GCL_STYLE);
+        return SetClassLongW(w, GCL_STYLE, static_cast<LONG>(style | CS_DROPSHADOW)) != 0;
+    }
+
+    std::optional<WindowRect> clientRect(WindowHandle window) override {
+        const HWND w = windowOf(window);
+        RECT r{};
+        POINT origin{0, 0};
+        if (!GetClientRect(w, &r) || !ClientToScreen(w, &origin))
+            return std::nullopt;
+        OffsetRect(&r, origin.x, origin.y);
+        return rectOf(r);
+    }
+
+    bool confinePointer(std::optional<WindowRect> area) override {
+        if (!area)
+            return ClipCursor(nullptr);
+        const RECT r{area->left, area->top, area->right, area->bottom};
+        return ClipCursor(&r);
+    }
+
+    FrameMetrics frameMetrics(WindowHandle) override {
+        return {GetSystemMetrics(SM_CYFRAME), GetSystemMetrics(SM_CYDLGFRAME),
+                GetSystemMetrics(SM_CYSIZE)};
     }
 };
 
