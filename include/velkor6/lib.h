@@ -210,9 +210,9 @@ public:
     // 1 with the typed text in value, or 2 with value unchanged. "##|" in front of the prompt
     // limits the input to ## characters.
     std::int32_t vkrInputValue(std::u16string_view Prompt, std::u16string_view Title,
-                               std::u16string& value, std::u16string_view Default = {});
+                               std::u16string& value, std::u16string_view defaultValue = {});
     std::int32_t vkrInputCode(std::u16string_view Prompt, std::u16string_view Title,
-                              std::u16string& value, std::u16string_view Default = {});
+                              std::u16string& value, std::u16string_view defaultValue = {});
     // Raises error 5 for a source that is not a text box, combo box, node, list item or list box.
     void vkrZoomTextBox(applib& oApp, const ObjectRef& Source, std::u16string_view Description = {},
                         bool IgnoreAttributes = false);

@@ -17,6 +17,11 @@ constexpr ClassType classTypes[] = {
     {u"", u"std::shared_ptr<applib>", u"vkrInitApp"},
     {u"oApp", u"applib&", u"vkrRes"},
     {u"tFileInfo", u"typFileInfo&", u"vkrSeparateFile"},
+    {u"oApp", u"applib&", u"vkrZoomTextBox"},
+    {u"vArgs", u"std::vector<std::u16string>&", u"vkrSeparateFunction"},
+    {u"tSize", u"SIZE&", u"vkrGetInternalFormSize"},
+    {u"", u"std::vector<typCmdParam>", u"cmdParams"},
+    {u"", u"Variant", u"vkrGlobalObj"},
 };
 
 std::u16string classType(std::u16string_view member, std::u16string_view param) {
@@ -64,7 +69,7 @@ std::u16string paramType(const Param& p) {
         return u"std::u16string_view";
     case VarType::Variant:
         if (p.byRef && p.optional)
-            return u"const Variant*";
+            return p.output ? u"Variant*" : u"const Variant*";
         return p.output ? u"Variant&" : u"const Variant&";
     case VarType::Object:
         return p.output ? u"ObjectRef&" : u"const ObjectRef&";
@@ -80,7 +85,9 @@ std::u16string defaultText(const Param& p, const std::u16string& type) {
     if (v.isMissing())
         return u"Variant::missing()";
     if (v.isString())
-        return v.string().empty() ? u"{}" : u"u\"" + v.string() + u"\"";
+        // A Variant's empty text differs from its Empty.
+        return v.string().empty() && type != u"const Variant&" ? u"{}"
+                                                               : u"u\"" + v.string() + u"\"";
     switch (v.type()) {
     case VarType::Boolean:
         return v.boolean() ? u"true" : u"false";

@@ -94,15 +94,15 @@ std::int16_t lib::vkrGetAnswer(std::u16string_view Prompt, std::u16string_view D
 }
 
 std::int32_t lib::vkrInputValue(std::u16string_view Prompt, std::u16string_view Title,
-                                std::u16string& value, std::u16string_view Default) {
+                                std::u16string& value, std::u16string_view defaultValue) {
     return trapped(
-        [&] { return dialogs::showInput(module(), Prompt, Title, value, Default, false); }, 0);
+        [&] { return dialogs::showInput(module(), Prompt, Title, value, defaultValue, false); }, 0);
 }
 
 std::int32_t lib::vkrInputCode(std::u16string_view Prompt, std::u16string_view Title,
-                               std::u16string& value, std::u16string_view Default) {
+                               std::u16string& value, std::u16string_view defaultValue) {
     return trapped(
-        [&] { return dialogs::showInput(module(), Prompt, Title, value, Default, true); }, 0);
+        [&] { return dialogs::showInput(module(), Prompt, Title, value, defaultValue, true); }, 0);
 }
 
 void lib::vkrZoomTextBox(applib& oApp, const ObjectRef& Source, std::u16string_view Description,

@@ -67,7 +67,7 @@ check decimal-chars "Preis > 1234.5 AND c = '2,5'" \
 check res-conv '&amp;Ja &lt;1&gt;' "$bin" call vkrResConv '&Ja <1>'
 check lng2str '-ZIK0ZK' "$bin" call vkrLng2Str -2147483648
 check str2lng '2147483647&' "$bin" call --typed vkrStr2Lng zik0zj
-check str2lng-overflow 'error 6: Overflow (velkor6)' "$bin" call vkrStr2Lng ZIK0ZK
+check str2lng-overflow 'error 6: Overflow (vkrStr2Lng)' "$bin" call vkrStr2Lng ZIK0ZK
 check scramble 'Geheim' "$bin" call vkrDecryptedValue "$("$bin" call vkrEncryptedValue Geheim)"
 check unscramble-bad \
     "error -2147221504: The text is not a value written by vkrEncryptedValue. (velkor6.vkrDecryptedValue)" \
