@@ -7,6 +7,7 @@
 #include "dialogs/status_window.h"
 #include "dialogs/std_message.h"
 #include "dialogs/zoom_dialog.h"
+#include "lib/applib_argument.h"
 #include "lib/dispatch_object.h"
 #include "lib/lib_members.h"
 #include "velkor6/vb_error.h"
@@ -159,17 +160,6 @@ namespace {
 
 using T = VarType;
 
-// The context an applib argument refers to.
-applib& contextOf(const Variant& v) {
-    const ObjectRef& object = v.object();
-    if (!object)
-        throw VbError(vberr::objectNotSet);
-    const auto* context = dynamic_cast<const TableObject<applib>*>(object.get());
-    if (context == nullptr)
-        throw VbError(vberr::typeMismatch);
-    return *context->target();
-}
-
 Param missing(std::u16string name) {
     return optional(std::move(name), T::Variant, Variant::missing());
 }
@@ -290,7 +280,7 @@ void addDialogMembers(Table<lib>& t) {
           optional(u"IgnoreAttributes", T::Boolean, false)},
          T::Empty,
          [](lib& l, Args& a) -> Variant {
-             l.vkrZoomTextBox(contextOf(a[0]), a[1].object(), a.str(2), a.b(3));
+             l.vkrZoomTextBox(applibArgument(a[0]), a[1].object(), a.str(2), a.b(3));
              return {};
          },
          u"Edits the Text of a control in a large resizable window; OK writes it back.",

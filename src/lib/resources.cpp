@@ -1,5 +1,6 @@
 // XML resources and resource libraries: the `lib` members and their rows in the member table.
 #include "core/text.h"
+#include "lib/applib_argument.h"
 #include "lib/applib_members.h"
 #include "lib/dispatch_object.h"
 #include "lib/lib_members.h"
@@ -71,17 +72,6 @@ namespace velkor6::dispatch {
 namespace {
 
 using T = VarType;
-
-// The context an applib argument refers to.
-applib& contextOf(const Variant& v) {
-    const ObjectRef& object = v.object();
-    if (!object)
-        throw VbError(vberr::objectNotSet);
-    const auto* context = dynamic_cast<const TableObject<applib>*>(object.get());
-    if (context == nullptr)
-        throw VbError(vberr::typeMismatch);
-    return *context->target();
-}
 
 } // namespace
 
@@ -155,7 +145,7 @@ void addResourceMembers(Table<lib>& t) {
                  CallKind::Method,
                  {required(u"oApp", T::Object), required(u"lResID", T::Long)},
                  T::String,
-                 [](lib& l, Args& a) -> Variant { return l.vkrRes(contextOf(a[0]), a.i32(1)); },
+                 [](lib& l, Args& a) -> Variant { return l.vkrRes(applibArgument(a[0]), a.i32(1)); },
                  u"The string lResID of the string tables of oApp's resource library.",
                  u"The library is the setting ResourceDLL of section Application with %L "
                  u"replaced by oApp's language number (1, 2, ...). Resource libraries made "

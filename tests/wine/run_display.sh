@@ -60,6 +60,7 @@ fi
 export DISPLAY=:$(head -1 "$work/display")
 
 mkdir -p "$build/display"
+. "$(dirname "$0")/client_result.sh"
 . "$(dirname "$0")/wine_env.sh" "$build/display" "$dll"
 if ! grep -q '"Graphics"="x11"' "$WINEPREFIX/user.reg" 2>/dev/null; then
     wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d x11 /f >/dev/null 2>&1
@@ -99,22 +100,7 @@ for script in "$@"; do
     [ -n "$shots" ] && arguments+=("$(winpath "$shots")")
     timeout 600 "$wine64" "$(winsysprogram cscript)" //nologo "$(winpath "$combined")" "${arguments[@]}" \
         >"$work/log" 2>&1
-    status=$?
-    output=$(tr -d '\r' <"$work/log")
-    echo "$output" | sed "s/^/$name: /"
-    summary=$(echo "$output" | grep -E '^[0-9]+ passed, [0-9]+ failed$' | tail -1)
-    if [ -z "$summary" ]; then
-        echo "$name: no summary line (a syntax error stops a script silently)"
-        failed=$((failed + 1))
-        continue
-    fi
-    passed=$((passed + ${summary%% *}))
-    scriptFailed=$(echo "$summary" | sed -E 's/.* ([0-9]+) failed$/\1/')
-    failed=$((failed + scriptFailed))
-    if [ "$scriptFailed" -eq 0 ] && [ "$status" -ne 0 ]; then
-        echo "$name: exit status $status"
-        failed=$((failed + 1))
-    fi
+    client_result "$name" $? "$work/log"
 done
 echo "$passed passed, $failed failed"
 [ "$failed" -eq 0 ]

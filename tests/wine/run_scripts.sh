@@ -10,6 +10,7 @@ build=$1
 dll=$(readlink -f "$2")
 answerer=$(readlink -f "$3")
 shift 3
+. "$(dirname "$0")/client_result.sh"
 . "$(dirname "$0")/wine_env.sh" "$build" "$dll"
 
 dllPath=$(winpath "$dll")
@@ -18,9 +19,11 @@ if ! winsys regsvr32 /s /n /i:machine "$dllPath" >/dev/null 2>&1; then
     exit 1
 fi
 
-log=$(mktemp)
+# A folder of this run's own: runs of other builds may be going at the same time.
+work=$(mktemp -d)
+log=$work/log
 # Programs the clients started (an editor, say) end with the prefix's server.
-trap 'winsys regsvr32 /s /u /n /i:machine "$dllPath" >/dev/null 2>&1; wineserver -k; rm -f "$log" "$(dirname "$log")"/velkor6-*.vbs' EXIT
+trap 'winsys regsvr32 /s /u /n /i:machine "$dllPath" >/dev/null 2>&1; wineserver -k; rm -rf "$work"' EXIT
 
 passed=0
 failed=0
@@ -29,7 +32,7 @@ for script in "$@"; do
     case "$script" in
     *.vbs)
         # VBScript has no include: the shared checks go in front of each script.
-        combined="$(dirname "$log")/velkor6-$name"
+        combined="$work/velkor6-$name"
         cat "$(dirname "$0")/check.inc" "$script" >"$combined"
         timeout 600 wine "$answerer" "$(winsysprogram cscript)" //nologo "$(winpath "$combined")" \
             >"$log" 2>&1
@@ -40,22 +43,7 @@ for script in "$@"; do
         ;;
     *) timeout 600 wine "$answerer" "$(winpath "$script")" >"$log" 2>&1 ;;
     esac
-    status=$?
-    output=$(tr -d '\r' <"$log")
-    echo "$output" | sed "s/^/$name: /"
-    summary=$(echo "$output" | grep -E '^[0-9]+ passed, [0-9]+ failed$' | tail -1)
-    if [ -z "$summary" ]; then
-        echo "$name: no summary line (a syntax error stops a script silently)"
-        failed=$((failed + 1))
-        continue
-    fi
-    passed=$((passed + ${summary%% *}))
-    scriptFailed=$(echo "$summary" | sed -E 's/.* ([0-9]+) failed$/\1/')
-    failed=$((failed + scriptFailed))
-    if [ "$scriptFailed" -eq 0 ] && [ "$status" -ne 0 ]; then
-        echo "$name: exit status $status"
-        failed=$((failed + 1))
-    fi
+    client_result "$name" $? "$log"
 done
 echo "$passed passed, $failed failed"
 [ "$failed" -eq 0 ]

@@ -12,7 +12,8 @@
 //   `decide` returns true, and then returns that event. An action `decide` refuses changes
 //   nothing (a refused close box leaves the form open).
 // - Buttons show their captions with "&" marking the access key ("&&" is a literal "&"); the
-//   default button has the focus when the form first shows.
+//   default button has the focus when the form first shows, unless the form has a field: then the
+//   field has it, so that typing goes into it.
 // - The field starts with its text, takes at most maxLength characters (0: no limit), shows
 //   passwordChar for every character when that is not 0, and, with selectAllOnFocus, selects its
 //   whole text when it receives the focus. Every reported event carries the field's text and the
