@@ -140,18 +140,19 @@ void addResourceMembers(Table<lib>& t) {
                  u"When sInclNoFormat is not \"\", it comes first as an entry of its own with "
                  u"ItemData -1, the choice of none of the list. The combo is cleared first; "
                  u"an error stops the filling."});
-    t.push_back({62,
-                 u"vkrRes",
-                 CallKind::Method,
-                 {required(u"oApp", T::Object), required(u"lResID", T::Long)},
-                 T::String,
-                 [](lib& l, Args& a) -> Variant { return l.vkrRes(applibArgument(a[0]), a.i32(1)); },
-                 u"The string lResID of the string tables of oApp's resource library.",
-                 u"The library is the setting ResourceDLL of section Application with %L "
-                 u"replaced by oApp's language number (1, 2, ...). Resource libraries made "
-                 u"for Windows are read on every platform. A library that cannot be read is "
-                 u"logged (\"LoadLibrary '...' failed.\") and gives \"\", as does a string "
-                 u"that is not there. At most 32766 characters."});
+    t.push_back(
+        {62,
+         u"vkrRes",
+         CallKind::Method,
+         {required(u"oApp", T::Object), required(u"lResID", T::Long)},
+         T::String,
+         [](lib& l, Args& a) -> Variant { return l.vkrRes(applibArgument(a[0]), a.i32(1)); },
+         u"The string lResID of the string tables of oApp's resource library.",
+         u"The library is the setting ResourceDLL of section Application with %L "
+         u"replaced by oApp's language number (1, 2, ...). Resource libraries made "
+         u"for Windows are read on every platform. A library that cannot be read is "
+         u"logged (\"LoadLibrary '...' failed.\") and gives \"\", as does a string "
+         u"that is not there. At most 32766 characters."});
 }
 
 } // namespace velkor6::dispatch
