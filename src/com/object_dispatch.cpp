@@ -72,10 +72,9 @@ public:
                 FAILED(hr))
                 return hr;
             const std::vector<Variant> before(call.values().begin(), call.values().end());
-            const CallKind kind = assignment ? CallKind::PropertyLet
-                                          : (flags & DISPATCH_METHOD) != 0
-                                              ? CallKind::Method
-                                              : CallKind::PropertyGet;
+            const CallKind kind = assignment                       ? CallKind::PropertyLet
+                                  : (flags & DISPATCH_METHOD) != 0 ? CallKind::Method
+                                                                   : CallKind::PropertyGet;
             const Variant value = object_->call(name, kind, call.values());
             call.writeBackChanged(before);
             if (result != nullptr)

@@ -1,7 +1,7 @@
 #include "com/registration.h"
 
-#include "lib/class_ids.h"
 #include "com/server_classes.h"
+#include "lib/class_ids.h"
 #include "platform/win32/wide.h"
 
 #include <olectl.h>

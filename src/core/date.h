@@ -1,11 +1,11 @@
 // OLE Automation dates: days since 1899-12-30, the fraction being the time of day.
 #pragma once
 
-#include <optional>
-#include <string_view>
-
 #include "velkor6/locale.h"
 #include "velkor6/variant.h"
+
+#include <optional>
+#include <string_view>
 
 namespace velkor6 {
 
@@ -26,7 +26,7 @@ DateParts splitDate(Date d);
 // Raises error 5 for years outside 100..9999 after the roll-over.
 Date makeDate(const DateParts& p);
 Date dateSerial(int year, int month, int day); // two-digit years: 0-29 -> 20xx, 30-99 -> 19xx
-int weekday(Date d);                            // 1 = Sunday ... 7 = Saturday
+int weekday(Date d);                           // 1 = Sunday ... 7 = Saturday
 
 // Reads a date and/or time the way CDate does in the locale: the locale's short-date order,
 // ISO yyyy-mm-dd, month names in English and the locale's language, times with ":" and AM/PM.

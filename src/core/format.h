@@ -1,11 +1,11 @@
 // VB's Format for the masks this library uses, and the named date forms.
 #pragma once
 
-#include <string>
-#include <string_view>
-
 #include "velkor6/locale.h"
 #include "velkor6/variant.h"
+
+#include <string>
+#include <string_view>
 
 namespace velkor6 {
 

@@ -1,9 +1,9 @@
 // VB's Like operator.
 #pragma once
 
-#include <string_view>
-
 #include "core/text.h"
+
+#include <string_view>
 
 namespace velkor6 {
 

@@ -35,21 +35,36 @@ Variant Variant::array(std::vector<Variant> items, VarType element) {
 
 VarType Variant::type() const {
     switch (value_.index()) {
-    case 0: return VarType::Empty;
-    case 1: return VarType::Null;
-    case 2: return VarType::Integer;
-    case 3: return VarType::Long;
-    case 4: return VarType::Single;
-    case 5: return VarType::Double;
-    case 6: return VarType::Currency;
-    case 7: return VarType::Date;
-    case 8: return VarType::String;
-    case 9: return VarType::Boolean;
-    case 10: return VarType::Decimal;
-    case 11: return VarType::Byte;
-    case 12: return VarType::Object;
-    case 13: return VarType::Error;
-    default: return VarType::Array | array().element;
+    case 0:
+        return VarType::Empty;
+    case 1:
+        return VarType::Null;
+    case 2:
+        return VarType::Integer;
+    case 3:
+        return VarType::Long;
+    case 4:
+        return VarType::Single;
+    case 5:
+        return VarType::Double;
+    case 6:
+        return VarType::Currency;
+    case 7:
+        return VarType::Date;
+    case 8:
+        return VarType::String;
+    case 9:
+        return VarType::Boolean;
+    case 10:
+        return VarType::Decimal;
+    case 11:
+        return VarType::Byte;
+    case 12:
+        return VarType::Object;
+    case 13:
+        return VarType::Error;
+    default:
+        return VarType::Array | array().element;
     }
 }
 
@@ -66,8 +81,10 @@ bool Variant::isNumber() const {
     case VarType::Double:
     case VarType::Currency:
     case VarType::Decimal:
-    case VarType::Byte: return true;
-    default: return false;
+    case VarType::Byte:
+        return true;
+    default:
+        return false;
     }
 }
 

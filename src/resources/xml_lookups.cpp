@@ -38,7 +38,8 @@ std::vector<ObjectRef> selectForeign(Object& doc, std::u16string_view name,
     const Variant list = doc.call(u"selectNodes", CallKind::Method, args);
     if (!list.isObject() || !list.object())
         throw VbError(vberr::objectRequired);
-    const std::int32_t count = toLong(list.object()->call(u"length", CallKind::PropertyGet, {}), loc);
+    const std::int32_t count =
+        toLong(list.object()->call(u"length", CallKind::PropertyGet, {}), loc);
     std::vector<ObjectRef> items;
     for (std::int32_t i = 0; i < count; ++i) {
         std::array<Variant, 1> index{Variant(i)};

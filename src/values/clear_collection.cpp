@@ -16,8 +16,7 @@ void clearCollection(ObjectRef& collection, bool setToNothing, const Locale& loc
                 toLong(collection->call(u"Count", CallKind::PropertyGet, {}), loc);
             for (std::int32_t i = count; i >= 1; --i) {
                 Variant index(i);
-                collection->call(u"Remove", CallKind::Method,
-                                 std::span<Variant>(&index, 1));
+                collection->call(u"Remove", CallKind::Method, std::span<Variant>(&index, 1));
             }
         }
     } catch (const VbError&) {

@@ -87,8 +87,7 @@ TEST(ForeignObject, MembersCallTheCallersObjectByName) {
         const ObjectRef object = objectFor(&host);
         EXPECT_EQ(object->typeName(), u"Object");
         std::vector<Variant> none;
-        EXPECT_EQ(object->call(u"PATH", CallKind::PropertyGet, none),
-                  Variant(u"C:\\Apps\\Demo"));
+        EXPECT_EQ(object->call(u"PATH", CallKind::PropertyGet, none), Variant(u"C:\\Apps\\Demo"));
         EXPECT_EQ(host.lastFlags, DISPATCH_PROPERTYGET);
 
         std::vector<Variant> assigned{Variant(u"D:\\Other")};
@@ -96,8 +95,7 @@ TEST(ForeignObject, MembersCallTheCallersObjectByName) {
         EXPECT_EQ(host.path, u"D:\\Other");
 
         std::vector<Variant> number{Variant(std::int32_t{21})};
-        EXPECT_EQ(object->call(u"Double", CallKind::Method, number),
-                  Variant(std::int32_t{42}));
+        EXPECT_EQ(object->call(u"Double", CallKind::Method, number), Variant(std::int32_t{42}));
         EXPECT_EQ(host.lastFlags, DISPATCH_METHOD);
 
         try {

@@ -1,6 +1,5 @@
 // Calls one member of an installed velkor6; prints 1 (the position of "a" in "abc").
 #include <iostream>
-
 #include <velkor6/lib.h>
 
 int main() {

@@ -61,8 +61,7 @@ TEST(Collection, ReachableByName) {
     std::vector<Variant> first{Variant(std::int32_t{1})};
     o.call(u"Remove", CallKind::Method, first);
     EXPECT_EQ(c->count(), 1);
-    EXPECT_EQ(errorOf([&] { o.call(u"Clear", CallKind::Method, {}); }),
-              vberr::noSuchMember);
+    EXPECT_EQ(errorOf([&] { o.call(u"Clear", CallKind::Method, {}); }), vberr::noSuchMember);
     EXPECT_EQ(errorOf([&] { o.call(u"Remove", CallKind::Method, {}); }),
               vberr::argumentNotOptional);
 }

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "velkor6/variant.h"
+
+#include <gtest/gtest.h>
 
 namespace velkor6 {
 namespace {

@@ -87,9 +87,9 @@ TEST_F(TextRows, MidReadsAndAssigns) {
     EXPECT_EQ(call(u"vkrMid", {{u"", &source}, {u"", &start}}, CallKind::PropertyGet),
               Variant(u"bcdef"));
     EXPECT_EQ(call(u"vkrMid", {{u"", &source}, {u"", &start}, {u"", &length}}), Variant(u"bc"));
-    EXPECT_EQ(
-        call(u"vkrMid", {{u"", &source}, {u"", &start}, {u"vNewValue", &value}}, CallKind::PropertyLet),
-        Variant());
+    EXPECT_EQ(call(u"vkrMid", {{u"", &source}, {u"", &start}, {u"vNewValue", &value}},
+                   CallKind::PropertyLet),
+              Variant());
     EXPECT_EQ(source, Variant(u"aXYZef"));
     EXPECT_EQ(call(u"vkrMid",
                    {{u"", &source}, {u"", &start}, {u"", &length}, {u"vNewValue", &value}},
