@@ -65,10 +65,14 @@ get_target_property(VELKOR6_PC_LIBS_PRIVATE velkor6 VELKOR6_PC_LIBS)
 if(NOT VELKOR6_PC_LIBS_PRIVATE)
   set(VELKOR6_PC_LIBS_PRIVATE "")
 endif()
+# pkg-config wants every package of Requires.private installed, even for a shared link: the X11
+# development packages are named only where a static library needs them.
 if(WIN32)
   set(VELKOR6_PC_REQUIRES_PRIVATE "")
-else()
+elseif(velkor6_type STREQUAL "STATIC_LIBRARY")
   set(VELKOR6_PC_REQUIRES_PRIVATE "pugixml x11 xext xcb")
+else()
+  set(VELKOR6_PC_REQUIRES_PRIVATE pugixml)
 endif()
 configure_file(${CMAKE_CURRENT_LIST_DIR}/velkor6.pc.in ${PROJECT_BINARY_DIR}/velkor6.pc.in @ONLY)
 install(CODE "configure_file(\"${PROJECT_BINARY_DIR}/velkor6.pc.in\"
