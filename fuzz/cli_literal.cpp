@@ -61,7 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } catch (const UsageError&) {
     }
     try {
-        parseCallLine(text);
+        parseScriptLine(text);
     } catch (const UsageError&) {
     }
     return 0;
