@@ -162,6 +162,10 @@ TEST(Win32Host, ZoomEditorSelectsItsTextKeepsEnterAndGrowsWithTheForm) {
             Sleep(100);
             selection = static_cast<DWORD>(SendMessageW(edit, EM_GETSEL, 0, 0));
             key(edit, VK_RETURN); // a new line, not the default button
+            // The character comes from translating the key in the form's thread; the click must
+            // not overtake it.
+            for (int i = 0; i < 200 && GetWindowTextLengthW(edit) != 2; ++i)
+                Sleep(10);
             RECT outer{};
             GetWindowRect(window, &outer);
             SetWindowPos(window, nullptr, 0, 0, outer.right - outer.left + 100,
