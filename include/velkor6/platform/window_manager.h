@@ -4,8 +4,10 @@
 #pragma once
 
 #include "velkor6/export.h"
+#include "velkor6/platform/control_window.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -85,6 +87,9 @@ public:
     // Sends a message to the window and returns its answer; 0 for a handle that is no window.
     virtual std::int32_t sendMessage(WindowHandle window, std::uint32_t message,
                                      std::int32_t wParam, std::int32_t lParam) = 0;
+    // The control window of this process behind the handle (a list view, text box or button);
+    // nullptr for a handle that is none, or that belongs to another process.
+    virtual std::shared_ptr<ControlWindow> controlWindow(WindowHandle) { return nullptr; }
 
     // The work area (the screen without task bars) of the monitor nearest to the point, in
     // screen pixels; nullopt when the system cannot tell.
