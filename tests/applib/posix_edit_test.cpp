@@ -2,17 +2,14 @@
 // ever read as shell syntax.
 #include "fake/temp_folder.h"
 #include "platform/memory_registry.h"
+#include "platform/posix_test_env.h"
 #include "velkor6/lib.h"
 #include "velkor6/platform/platform.h"
 
 #include <cerrno>
 #include <chrono>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <optional>
-#include <sstream>
 #include <string>
 #include <sys/wait.h>
 #include <thread>
@@ -20,52 +17,13 @@
 namespace velkor6 {
 namespace {
 
-// Sets an environment variable for the life of the object.
-class ScopedVariable {
-public:
-    ScopedVariable(const char* name, const std::string& value) : name_(name) {
-        if (const char* old = std::getenv(name))
-            old_ = old;
-        ::setenv(name, value.c_str(), 1);
-    }
-    ~ScopedVariable() {
-        if (old_)
-            ::setenv(name_, old_->c_str(), 1);
-        else
-            ::unsetenv(name_);
-    }
-
-private:
-    const char* name_;
-    std::optional<std::string> old_;
-};
-
-TEST(PosixEditing, TheEditVerbStartsTheUsersEditor) {
-    fake::TempFolder folder;
-    folder.write("app.ini", "[S]\r\n");
-    folder.write("editor.sh", "#!/bin/sh\necho \"$1\" > \"$(dirname \"$1\")/edited\"\n");
-    std::filesystem::permissions(folder.path() / "editor.sh", std::filesystem::perms::owner_all);
-    const ScopedVariable visual("VISUAL", (folder.path() / "editor.sh").string());
-
-    auto platform = Platform::createNative();
-    EXPECT_GT(platform->shell->execute(u"edit", folder.u16("app.ini"), u"", folder.u16(), 6), 32);
-    const auto marker = folder.path() / "edited";
-    for (int i = 0; i < 100 && !std::filesystem::exists(marker); ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    EXPECT_TRUE(std::filesystem::exists(marker));
-}
+using posixtest::contentOf;
+using posixtest::ScopedEnv;
 
 bool waitFor(const std::filesystem::path& file) {
     for (int i = 0; i < 200 && !std::filesystem::exists(file); ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(25));
     return std::filesystem::exists(file);
-}
-
-std::string contentOf(const std::filesystem::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
 }
 
 TEST(PosixEditing, AFolderNameIsNeverReadAsCommandSyntax) {
@@ -97,7 +55,7 @@ TEST(PosixEditing, AFolderNameIsNeverReadAsCommandSyntax) {
         SCOPED_TRACE(c.name);
         std::filesystem::remove(argvFile);
         std::filesystem::remove(doneFile);
-        const ScopedVariable visual("VISUAL", c.visual);
+        const ScopedEnv visual("VISUAL", c.visual.c_str());
         auto platform = Platform::createNative();
         auto registry = std::make_unique<MemoryRegistry>();
         ASSERT_TRUE(registry->load("REGEDIT4\r\n\r\n[HKEY_CLASSES_ROOT\\.ini]\r\n"

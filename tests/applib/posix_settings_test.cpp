@@ -1,22 +1,16 @@
 // Settings files on POSIX: where a settings name leads, and what of a value counts as a folder.
 #include "core/text.h"
 #include "fake/temp_folder.h"
+#include "platform/posix_test_env.h"
 #include "velkor6/lib.h"
 
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace velkor6 {
 namespace {
 
-std::string contentOf(const std::filesystem::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
+using posixtest::contentOf;
 
 TEST(PosixSettings, TheFileIsBesideTheProgramOrInTheCurrentFolder) {
     fake::TempFolder tmp;

@@ -4,6 +4,7 @@
 #include "core/text.h"
 #include "fake/temp_folder.h"
 #include "platform/posix/file_store.h"
+#include "platform/posix_test_env.h"
 #include "velkor6/module.h"
 
 #include <chrono>
@@ -13,7 +14,6 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <random>
-#include <sstream>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -21,12 +21,7 @@
 namespace velkor6::app {
 namespace {
 
-std::string contentOf(const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
+using posixtest::contentOf;
 
 // Runs body in a child process and returns its wait status.
 template <class F>

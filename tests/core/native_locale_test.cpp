@@ -1,15 +1,15 @@
 #include "core/text.h"
 #include "platform/posix/time_picture.h"
+#include "platform/posix_test_env.h"
 #include "velkor6/platform/platform.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <locale.h>
-#include <optional>
-#include <string>
 
 namespace velkor6 {
 namespace {
+
+using posixtest::ScopedEnv;
 
 TEST(NativeLocale, StrftimePicturesBecomeWindowsPictures) {
     struct Case {
@@ -37,28 +37,6 @@ TEST(NativeLocale, StrftimePicturesBecomeWindowsPictures) {
     EXPECT_EQ(posix::pictureSeparator(u"yyyy-MM-dd", u'/'), u'-');
     EXPECT_EQ(posix::pictureSeparator(u"HH'h'mm", u':'), u':');
 }
-
-// Sets an environment variable for the life of the object.
-class ScopedEnv {
-public:
-    ScopedEnv(const char* name, const char* value) : name_(name) {
-        if (const char* old = std::getenv(name))
-            old_ = old;
-        ::setenv(name, value, 1);
-    }
-    ~ScopedEnv() {
-        if (old_)
-            ::setenv(name_, old_->c_str(), 1);
-        else
-            ::unsetenv(name_);
-    }
-    ScopedEnv(const ScopedEnv&) = delete;
-    ScopedEnv& operator=(const ScopedEnv&) = delete;
-
-private:
-    const char* name_;
-    std::optional<std::string> old_;
-};
 
 bool localeInstalled(const char* name) {
     const locale_t loc = newlocale(LC_ALL_MASK, name, locale_t{});

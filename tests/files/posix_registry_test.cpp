@@ -1,44 +1,20 @@
 #include "fake/temp_folder.h"
 #include "files/registry_scripts.h"
 #include "platform/posix/file_registry.h"
+#include "platform/posix_test_env.h"
 #include "velkor6/lib.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <optional>
 
 namespace velkor6 {
 namespace {
 
+using posixtest::ScopedEnv;
 using regtest::ansiScript;
 using regtest::utf16Script;
 
 constexpr RegHandle hkcu = regroot::currentUser;
-
-class ScopedEnv {
-public:
-    ScopedEnv(const char* name, const char* value) : name_(name) {
-        if (const char* old = std::getenv(name))
-            old_ = old;
-        if (value != nullptr)
-            setenv(name, value, 1);
-        else
-            unsetenv(name);
-    }
-    ~ScopedEnv() {
-        if (old_)
-            setenv(name_, old_->c_str(), 1);
-        else
-            unsetenv(name_);
-    }
-    ScopedEnv(const ScopedEnv&) = delete;
-    ScopedEnv& operator=(const ScopedEnv&) = delete;
-
-private:
-    const char* name_;
-    std::optional<std::string> old_;
-};
 
 TEST(PosixRegistry, ReadsTheScriptsOfItsFolder) {
     namespace fs = std::filesystem;
