@@ -1,4 +1,5 @@
 #include "core/like.h"
+#include "fake/error_of.h"
 #include "velkor6/vb_error.h"
 
 #include <gtest/gtest.h>
@@ -66,12 +67,7 @@ TEST(Like, MatchesWholeTextsInBothModes) {
 
 TEST(Like, RejectsMalformedPatternsEvenWithoutAMatch) {
     const auto error = [](std::u16string_view s, std::u16string_view pattern, Compare mode) {
-        try {
-            like(s, pattern, mode);
-        } catch (const VbError& e) {
-            return e.number();
-        }
-        return 0;
+        return errorOf([&] { like(s, pattern, mode); });
     };
     EXPECT_EQ(error(u"a[xyz", u"a[*", Compare::Binary), vberr::invalidPattern);
     EXPECT_EQ(error(u"zzz", u"a[", Compare::Text), vberr::invalidPattern);

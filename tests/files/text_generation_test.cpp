@@ -1,5 +1,6 @@
 #include "core/date.h"
 #include "core/text.h"
+#include "fake/error_of.h"
 #include "fake/fake_platform.h"
 #include "files/text_generation.h"
 #include "lib/lib_members.h"
@@ -39,12 +40,8 @@ TEST(PredefinedExpressions, ExpandCallerPairsThenTheFixedOnesInOrder) {
     // An odd list fails after the complete pairs, before any fixed placeholder.
     Variant odd = Variant::array({Variant(u"A"), Variant(u"1"), Variant(u"B")});
     s = u"%A% %B% %TAB%";
-    try {
-        l.prfReplacePredefinedExpressions(s, &odd);
-        ADD_FAILURE() << "no error";
-    } catch (const VbError& e) {
-        EXPECT_EQ(e.number(), vberr::subscriptOutOfRange);
-    }
+    EXPECT_EQ(errorOf([&] { l.prfReplacePredefinedExpressions(s, &odd); }),
+              vberr::subscriptOutOfRange);
     EXPECT_EQ(s, u"1 %B% %TAB%");
 }
 

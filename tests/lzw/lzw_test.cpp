@@ -1,3 +1,4 @@
+#include "fake/error_of.h"
 #include "lzw/lzw.h"
 #include "reference_lzw.h"
 #include "velkor6/vb_error.h"
@@ -48,15 +49,6 @@ std::vector<std::string> sampleInputs() {
         in.push_back(randomText(rng, n));
     }
     return in;
-}
-
-int vbError(auto&& call) {
-    try {
-        call();
-    } catch (const VbError& e) {
-        return e.number();
-    }
-    return 0;
 }
 
 // True when code 258 appears after a clear code that is not the first code.
@@ -110,11 +102,11 @@ TEST(Lzw, MatchesThePlainModelAndRestoresEveryInput) {
 TEST(Lzw, DamagedStreamsDecodeLikeThePlainModel) {
     const auto check = [](const std::string& s, int round) {
         std::string expected;
-        const int expectedError = vbError([&] { expected = reference::inflate(s); });
+        const int expectedError = errorOf([&] { expected = reference::inflate(s); });
         std::string actual;
-        EXPECT_EQ(vbError([&] { actual = inflate(s); }), expectedError) << "round " << round;
+        EXPECT_EQ(errorOf([&] { actual = inflate(s); }), expectedError) << "round " << round;
         EXPECT_EQ(actual, expected) << "round " << round;
-        const int strictError = vbError([&] { inflateStrict(s); });
+        const int strictError = errorOf([&] { inflateStrict(s); });
         EXPECT_TRUE(strictError == 0 || strictError == vberr::subscriptOutOfRange);
     };
     // Arbitrary bytes with the clear code in front reach every odd path of the decoder: empty
@@ -173,9 +165,9 @@ TEST(Lzw, EstablishedDecoderLearnsASingleCharacterAfterAClear) {
 }
 
 TEST(Lzw, ShortOrForeignStreams) {
-    EXPECT_EQ(vbError([] { inflate(""); }), vberr::subscriptOutOfRange);
-    EXPECT_EQ(vbError([] { inflateStrict(""); }), vberr::subscriptOutOfRange);
-    EXPECT_EQ(vbError([] { inflate("\x01"); }), vberr::subscriptOutOfRange);
+    EXPECT_EQ(errorOf([] { inflate(""); }), vberr::subscriptOutOfRange);
+    EXPECT_EQ(errorOf([] { inflateStrict(""); }), vberr::subscriptOutOfRange);
+    EXPECT_EQ(errorOf([] { inflate("\x01"); }), vberr::subscriptOutOfRange);
     EXPECT_EQ(inflate("\x02"), "");
     EXPECT_EQ(inflate("plain text"), ""); // 'p' is even: the first code is not the clear code
     EXPECT_EQ(inflateStrict("plain text"), "");
@@ -184,14 +176,14 @@ TEST(Lzw, ShortOrForeignStreams) {
     const std::string s = "TOBEORNOTTOBEORTOBEORNOT";
     const std::string cut = deflate(s).substr(0, 10);
     EXPECT_EQ(inflate(cut), reference::inflate(cut));
-    EXPECT_EQ(vbError([&] { inflateStrict(cut); }), vberr::subscriptOutOfRange);
+    EXPECT_EQ(errorOf([&] { inflateStrict(cut); }), vberr::subscriptOutOfRange);
 
     using Codes = std::vector<std::uint32_t>;
     for (const Codes& bad : {Codes{256, 300, 257, 0},       // not yet defined
                              Codes{256, 65, 260, 257, 0},   // beyond the next free code
                              Codes{256, 65, 256, 259, 257}, // after a clear only 258 is known
                              Codes{256, 65, 66, 67}})       // no end code
-        EXPECT_EQ(vbError([&] { inflateStrict(reference::pack(bad)); }),
+        EXPECT_EQ(errorOf([&] { inflateStrict(reference::pack(bad)); }),
                   vberr::subscriptOutOfRange);
     Codes full{256, 65};
     for (std::uint32_t c = 0; c < 254; ++c) // fills 258 to 511
@@ -199,7 +191,7 @@ TEST(Lzw, ShortOrForeignStreams) {
     full.insert(full.end(), {257, 0});
     EXPECT_EQ(inflateStrict(reference::pack(full)), "A" + std::string(254, 'B'));
     full.insert(full.end() - 2, 66); // one string more than the dictionary holds, no clear
-    EXPECT_EQ(vbError([&] { inflateStrict(reference::pack(full)); }), vberr::subscriptOutOfRange);
+    EXPECT_EQ(errorOf([&] { inflateStrict(reference::pack(full)); }), vberr::subscriptOutOfRange);
 }
 
 TEST(Lzw, RunawayOutputStopsAtTheLimit) {
@@ -212,8 +204,8 @@ TEST(Lzw, RunawayOutputStopsAtTheLimit) {
     const std::size_t full = 255 * 256 / 2;
     EXPECT_EQ(inflateStrict(packed, full).size(), full);
     EXPECT_EQ(inflate(packed, full).size(), full);
-    EXPECT_EQ(vbError([&] { inflateStrict(packed, full - 1); }), vberr::outOfStringSpace);
-    EXPECT_EQ(vbError([&] { inflate(packed, full - 1); }), vberr::outOfStringSpace);
+    EXPECT_EQ(errorOf([&] { inflateStrict(packed, full - 1); }), vberr::outOfStringSpace);
+    EXPECT_EQ(errorOf([&] { inflate(packed, full - 1); }), vberr::outOfStringSpace);
 }
 
 // Feeds `packed` to an Inflater in pieces of the given sizes, in turn; returns the output and the
@@ -222,7 +214,7 @@ std::pair<std::string, int> inflateInPieces(std::string_view packed, bool strict
                                             const std::vector<std::size_t>& sizes,
                                             std::size_t window) {
     std::string out;
-    const int error = vbError([&] {
+    const int error = errorOf([&] {
         Inflater inflater(
             strict, [&](std::string_view piece) { out.append(piece); }, maxDecodedSize, window);
         for (std::size_t at = 0, k = 0; at < packed.size(); ++k) {
@@ -263,7 +255,7 @@ TEST(Lzw, StreamingDecodesLikeTheWholeText) {
         for (bool strict : {false, true}) {
             std::string whole;
             const int error =
-                vbError([&] { whole = strict ? inflateStrict(packed) : inflate(packed); });
+                errorOf([&] { whole = strict ? inflateStrict(packed) : inflate(packed); });
             for (const auto& [sizes, window] : feeds) {
                 if (sizes[0] == 1 && packed.size() > 50000)
                     continue;
