@@ -12,43 +12,46 @@ namespace velkor6::text {
 namespace {
 
 TEST(TextCount, CountsNonOverlappingOccurrencesOfEachAlternative) {
-    EXPECT_EQ(members().vkrCountSubString(u"aaaa", u"aa"), 2);
-    EXPECT_EQ(members().vkrCountSubString(u"abc", u"a|b"), 2);
-    EXPECT_EQ(members().vkrCountSubString(u"abc", u"ab|b"), 2); // counted once per alternative
-    EXPECT_EQ(members().vkrCountSubString(u"", u"a"), 0);
-    EXPECT_EQ(members().vkrCountSubString(u"abc", u""), 0);
-    EXPECT_EQ(members().vkrCountSubString(u"aAa", u"a", 2), 2);
-    EXPECT_EQ(members().vkrCountSubString(u"aAa", u"a", 1, false), 2);
-    EXPECT_EQ(members().vkrCountSubString(u"aaa", u"a", 0), 0); // the search traps a start below 1
+    lib l = members();
+    EXPECT_EQ(l.vkrCountSubString(u"aaaa", u"aa"), 2);
+    EXPECT_EQ(l.vkrCountSubString(u"abc", u"a|b"), 2);
+    EXPECT_EQ(l.vkrCountSubString(u"abc", u"ab|b"), 2); // counted once per alternative
+    EXPECT_EQ(l.vkrCountSubString(u"", u"a"), 0);
+    EXPECT_EQ(l.vkrCountSubString(u"abc", u""), 0);
+    EXPECT_EQ(l.vkrCountSubString(u"aAa", u"a", 2), 2);
+    EXPECT_EQ(l.vkrCountSubString(u"aAa", u"a", 1, false), 2);
+    EXPECT_EQ(l.vkrCountSubString(u"aaa", u"a", 0), 0); // the search traps a start below 1
     // An empty alternative is found at the same place again and again.
-    EXPECT_EQ(errorOf([] { members().vkrCountSubString(u"abc", u"b|"); }), vberr::overflow);
-    EXPECT_EQ(members().vkrCountSubString(u"abc", u"b|", 4), 0);
-    EXPECT_EQ(errorOf([] { countSubString(u"abc", u"|", 1, Compare::Text); }), vberr::overflow);
+    EXPECT_EQ(errorOf([&] { l.vkrCountSubString(u"abc", u"b|"); }), vberr::overflow);
+    EXPECT_EQ(l.vkrCountSubString(u"abc", u"b|", 4), 0);
+    EXPECT_EQ(errorOf([&] { countSubString(u"abc", u"|", 1, Compare::Text); }), vberr::overflow);
 }
 
 TEST(TextCount, LeavesOutOccurrencesInsideSignPairs) {
+    lib l = members();
     const std::u16string_view sql = u"a = 'a' AND (a) OR \"a\"";
-    EXPECT_EQ(members().vkrCountSubStringExt(sql, u"a"), 5);
-    EXPECT_EQ(members().vkrCountSubStringExt(sql, u"a", 1, true, u"''"), 4);
-    EXPECT_EQ(members().vkrCountSubStringExt(sql, u"a", 1, true, u"''|()|\"\""), 2);
-    EXPECT_EQ(members().vkrCountSubStringExt(sql, u"a", 1, true, u"'|x()"), 5); // not pairs
+    EXPECT_EQ(l.vkrCountSubStringExt(sql, u"a"), 5);
+    EXPECT_EQ(l.vkrCountSubStringExt(sql, u"a", 1, true, u"''"), 4);
+    EXPECT_EQ(l.vkrCountSubStringExt(sql, u"a", 1, true, u"''|()|\"\""), 2);
+    EXPECT_EQ(l.vkrCountSubStringExt(sql, u"a", 1, true, u"'|x()"), 5); // not pairs
 }
 
 TEST(TextCount, OverflowsWhereAnIntegerPositionOrCountWould) {
+    lib l = members();
     const std::u16string many(32766, u'a');
-    EXPECT_EQ(members().vkrCountSubString(many, u"a", 2), 32765);
+    EXPECT_EQ(l.vkrCountSubString(many, u"a", 2), 32765);
     // The last occurrence ends at 32767: the position after it no longer fits.
-    EXPECT_EQ(errorOf([&] { members().vkrCountSubString(many + u"a", u"a"); }), vberr::overflow);
+    EXPECT_EQ(errorOf([&] { l.vkrCountSubString(many + u"a", u"a"); }), vberr::overflow);
     EXPECT_EQ(countSubString(many + u"aa", u"a", 1, Compare::Text), 32768);
     // The sum over the alternatives is one Integer too.
-    EXPECT_EQ(errorOf([] { members().vkrCountSubString(std::u16string(20000, u'a'), u"a|A"); }),
+    EXPECT_EQ(errorOf([&] { l.vkrCountSubString(std::u16string(20000, u'a'), u"a|A"); }),
               vberr::overflow);
     std::u16string text(32764, u'x');
-    EXPECT_EQ(members().vkrCountSubString(text + u"ab" + u"xxxx", u"ab"), 1);
-    EXPECT_EQ(errorOf([&] { members().vkrCountSubString(text + u"xab" + u"xxxx", u"ab"); }),
+    EXPECT_EQ(l.vkrCountSubString(text + u"ab" + u"xxxx", u"ab"), 1);
+    EXPECT_EQ(errorOf([&] { l.vkrCountSubString(text + u"xab" + u"xxxx", u"ab"); }),
               vberr::overflow);
     // Occurrences beyond the Integer range are not found, without an error.
-    EXPECT_EQ(members().vkrCountSubString(text + u"xxxxxxab", u"ab"), 0);
+    EXPECT_EQ(l.vkrCountSubString(text + u"xxxxxxab", u"ab"), 0);
 }
 
 TEST(TextCount, ExtAgreesWithTheStepByStepLoop) {

@@ -8,32 +8,33 @@ namespace velkor6::text {
 namespace {
 
 TEST(TextFind, PicksTheEarliestOrTheFirstListedAlternative) {
+    lib l = members();
     std::u16string found = u"untouched";
-    EXPECT_EQ(members().vkrFindSubString(u"Select a, b FROM t", u"from|select", 1, true, true,
-                                         false, &found),
-              1);
+    EXPECT_EQ(
+        l.vkrFindSubString(u"Select a, b FROM t", u"from|select", 1, true, true, false, &found), 1);
     EXPECT_EQ(found, u"select");
-    EXPECT_EQ(members().vkrFindSubString(u"Select a, b FROM t", u"from|select", 1, true, false,
-                                         false, &found),
-              13);
+    EXPECT_EQ(
+        l.vkrFindSubString(u"Select a, b FROM t", u"from|select", 1, true, false, false, &found),
+        13);
     EXPECT_EQ(found, u"from");
     // Equal positions keep the alternative listed first.
-    EXPECT_EQ(members().vkrFindSubString(u"abc", u"ab|a", 1, true, true, false, &found), 1);
+    EXPECT_EQ(l.vkrFindSubString(u"abc", u"ab|a", 1, true, true, false, &found), 1);
     EXPECT_EQ(found, u"ab");
     // An empty alternative is found at the start position; an empty term has none.
-    EXPECT_EQ(members().vkrFindSubString(u"abc", u"x||c", 2, true, true, false, &found), 2);
+    EXPECT_EQ(l.vkrFindSubString(u"abc", u"x||c", 2, true, true, false, &found), 2);
     EXPECT_EQ(found, u"");
     found = u"kept";
-    EXPECT_EQ(members().vkrFindSubString(u"abc", u"", 1, true, true, false, &found), 0);
-    EXPECT_EQ(members().vkrFindSubString(u"", u"|a", 1, true, true, false, &found), 0);
-    EXPECT_EQ(members().vkrFindSubString(u"abc", u"B", 1, false, true, false, &found), 0);
+    EXPECT_EQ(l.vkrFindSubString(u"abc", u"", 1, true, true, false, &found), 0);
+    EXPECT_EQ(l.vkrFindSubString(u"", u"|a", 1, true, true, false, &found), 0);
+    EXPECT_EQ(l.vkrFindSubString(u"abc", u"B", 1, false, true, false, &found), 0);
     EXPECT_EQ(found, u"kept");
     // The search traps its own errors.
-    EXPECT_EQ(members().vkrFindSubString(u"abc", u"a", 0), 0);
-    EXPECT_EQ(members().vkrFindSubString(u"abc", u"a", -5), 0);
+    EXPECT_EQ(l.vkrFindSubString(u"abc", u"a", 0), 0);
+    EXPECT_EQ(l.vkrFindSubString(u"abc", u"a", -5), 0);
 }
 
 TEST(TextFind, WholeWordsNeedDelimitersExceptBeforeTheLastCharacter) {
+    lib l = members();
     struct Case {
         std::u16string_view source, find;
         std::int16_t expected;
@@ -47,62 +48,65 @@ TEST(TextFind, WholeWordsNeedDelimitersExceptBeforeTheLastCharacter) {
     };
     for (const Case& c : cases) {
         std::u16string found;
-        EXPECT_EQ(members().vkrFindSubString(c.source, c.find, 1, true, true, true, &found),
-                  c.expected)
+        EXPECT_EQ(l.vkrFindSubString(c.source, c.find, 1, true, true, true, &found), c.expected)
             << std::string(c.source.begin(), c.source.end());
     }
 }
 
 TEST(TextFind, LastOccurrenceAndPresence) {
-    EXPECT_EQ(members().vkrFindLastSubString(u"aaaa", u"aa"), 3);
-    EXPECT_EQ(members().vkrFindLastSubString(u"a|b a|b", u"A|B"), 5); // "|" is not special here
-    EXPECT_EQ(members().vkrFindLastSubString(u"a|b a|b", u"A|B", 1, false), 0);
-    EXPECT_EQ(members().vkrFindLastSubString(u"abcabc", u"abc", 5), 0);
-    EXPECT_EQ(members().vkrFindLastSubString(u"abc", u""), 3);
-    EXPECT_EQ(members().vkrFindLastSubString(u"abc", u"a", 0), 0);
-    EXPECT_EQ(members().vkrHasSubString(u"Select", u"x|LEC"), -1);
-    EXPECT_EQ(members().vkrHasSubString(u"Select", u"x|LEC", 1, false), 0);
-    EXPECT_EQ(members().vkrHasSubString(u"", u"a"), 0);
+    lib l = members();
+    EXPECT_EQ(l.vkrFindLastSubString(u"aaaa", u"aa"), 3);
+    EXPECT_EQ(l.vkrFindLastSubString(u"a|b a|b", u"A|B"), 5); // "|" is not special here
+    EXPECT_EQ(l.vkrFindLastSubString(u"a|b a|b", u"A|B", 1, false), 0);
+    EXPECT_EQ(l.vkrFindLastSubString(u"abcabc", u"abc", 5), 0);
+    EXPECT_EQ(l.vkrFindLastSubString(u"abc", u""), 3);
+    EXPECT_EQ(l.vkrFindLastSubString(u"abc", u"a", 0), 0);
+    EXPECT_EQ(l.vkrHasSubString(u"Select", u"x|LEC"), -1);
+    EXPECT_EQ(l.vkrHasSubString(u"Select", u"x|LEC", 1, false), 0);
+    EXPECT_EQ(l.vkrHasSubString(u"", u"a"), 0);
 }
 
 TEST(TextFind, GetsTheTrimmedTextBetweenTwoTerms) {
-    EXPECT_EQ(members().vkrGetSubString(u"SELECT  a, b  FROM t", u"select", u"from"), u"a, b");
-    EXPECT_EQ(members().vkrGetSubString(u"SELECT a FROM t", u"select", u""), u"a FROM t");
-    EXPECT_EQ(members().vkrGetSubString(u"SELECT a FROM t", u"", u"from"), u"SELECT a");
-    EXPECT_EQ(members().vkrGetSubString(u"SELECT a FROM t", u"where", u"from"), u"");
-    EXPECT_EQ(members().vkrGetSubString(u"SELECT a FROM t", u"select", u"where"), u"");
+    lib l = members();
+    EXPECT_EQ(l.vkrGetSubString(u"SELECT  a, b  FROM t", u"select", u"from"), u"a, b");
+    EXPECT_EQ(l.vkrGetSubString(u"SELECT a FROM t", u"select", u""), u"a FROM t");
+    EXPECT_EQ(l.vkrGetSubString(u"SELECT a FROM t", u"", u"from"), u"SELECT a");
+    EXPECT_EQ(l.vkrGetSubString(u"SELECT a FROM t", u"where", u"from"), u"");
+    EXPECT_EQ(l.vkrGetSubString(u"SELECT a FROM t", u"select", u"where"), u"");
     // iStartSearch is ignored; alternatives and whole words apply to both terms.
-    EXPECT_EQ(members().vkrGetSubString(u"x = 1 AND y = 2", u"=", u"and|or", 9), u"1");
-    EXPECT_EQ(members().vkrGetSubString(u"fromage from t", u"from", u"", 1, true, true), u"t");
+    EXPECT_EQ(l.vkrGetSubString(u"x = 1 AND y = 2", u"=", u"and|or", 9), u"1");
+    EXPECT_EQ(l.vkrGetSubString(u"fromage from t", u"from", u"", 1, true, true), u"t");
 }
 
 TEST(TextFind, SeparatesAtTheFirstListedAlternativeThatOccurs) {
+    lib l = members();
     std::u16string before, term, after;
-    members().vkrSeparateString(u" a = b < c ", u"<|=", before, term, after);
+    l.vkrSeparateString(u" a = b < c ", u"<|=", before, term, after);
     EXPECT_EQ(before, u"a = b");
     EXPECT_EQ(term, u"<");
     EXPECT_EQ(after, u"c");
-    members().vkrSeparateString(u" a = b ", u"x|y", before, term, after);
+    l.vkrSeparateString(u" a = b ", u"x|y", before, term, after);
     EXPECT_EQ(before, u"");
     EXPECT_EQ(term, u" a = b ");
     EXPECT_EQ(after, u"");
-    members().vkrSeparateString(u"a=b=c", u"=", before, term, after, 3);
+    l.vkrSeparateString(u"a=b=c", u"=", before, term, after, 3);
     EXPECT_EQ(before, u"a=b");
     EXPECT_EQ(after, u"c");
-    members().vkrSeparateString(u"a B c", u"b", before, term, after, 1, false);
+    l.vkrSeparateString(u"a B c", u"b", before, term, after, 1, false);
     EXPECT_EQ(term, u"a B c");
 }
 
 TEST(TextFind, PositionsBeyondTheIntegerRangeAreNotFound) {
+    lib l = members();
     std::u16string text(32765, u'x');
     text += u" cat cat";
     // The first "cat" starts at 32767, the second one beyond the Integer range.
-    EXPECT_EQ(members().vkrFindSubString(text, u"cat"), 32767);
-    EXPECT_EQ(members().vkrFindLastSubString(text, u"cat"), 32767);
-    EXPECT_EQ(members().vkrFindSubString(text, u"cat", 1, true, true, true), 32767);
-    EXPECT_EQ(members().vkrHasSubString(text, u"t cat"), 0);
+    EXPECT_EQ(l.vkrFindSubString(text, u"cat"), 32767);
+    EXPECT_EQ(l.vkrFindLastSubString(text, u"cat"), 32767);
+    EXPECT_EQ(l.vkrFindSubString(text, u"cat", 1, true, true, true), 32767);
+    EXPECT_EQ(l.vkrHasSubString(text, u"t cat"), 0);
     text[32765] = u'y';
-    EXPECT_EQ(members().vkrFindSubString(text, u"cat", 1, true, true, true), 0);
+    EXPECT_EQ(l.vkrFindSubString(text, u"cat", 1, true, true, true), 0);
     // The toolkit itself reaches any position.
     EXPECT_EQ(findSubString(text, u"cat", 1, Compare::Text, true, true, nullptr), 32771);
     EXPECT_TRUE(hasSubString(text, u"t cat", 1, Compare::Text));

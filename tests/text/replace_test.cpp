@@ -14,72 +14,70 @@ namespace {
 const Locale& en = Locale::englishUS();
 
 TEST(TextReplace, LeavesDoubleQuotedLiteralsAlone) {
-    EXPECT_EQ(members().vkrReplaceInString(u"x = \"a\" & a", u"a", u"b"), u"x = \"a\" & b");
-    EXPECT_EQ(members().vkrReplaceInString(u"x = \"A\" & A", u"a", u"b", 1, false),
-              u"x = \"A\" & b");
-    EXPECT_EQ(members().vkrReplaceInString(u"x = \"a\" & a", u"a", u"b", 1, true, false, false),
+    lib l = members();
+    EXPECT_EQ(l.vkrReplaceInString(u"x = \"a\" & a", u"a", u"b"), u"x = \"a\" & b");
+    EXPECT_EQ(l.vkrReplaceInString(u"x = \"A\" & A", u"a", u"b", 1, false), u"x = \"A\" & b");
+    EXPECT_EQ(l.vkrReplaceInString(u"x = \"a\" & a", u"a", u"b", 1, true, false, false),
               u"x = \"b\" & b");
-    EXPECT_EQ(members().vkrReplaceInString(u"'a'", u"a", u"b"),
+    EXPECT_EQ(l.vkrReplaceInString(u"'a'", u"a", u"b"),
               u"'b'"); // single quotes are not signs
     // The quotes are counted in the text as it is now, replacements included.
-    EXPECT_EQ(members().vkrReplaceInString(u"a a \"x\"", u"a", u"\""), u"\" a \"x\"");
+    EXPECT_EQ(l.vkrReplaceInString(u"a a \"x\"", u"a", u"\""), u"\" a \"x\"");
 }
 
 TEST(TextReplace, ReplacesEachMatchOnceFromTheStart) {
-    EXPECT_EQ(members().vkrReplaceInString(u"aa", u"a", u"aa"), u"aaaa");
-    EXPECT_EQ(members().vkrReplaceInString(u"aaa", u"a", u"b", 2), u"abb");
-    EXPECT_EQ(members().vkrReplaceInString(u"aaa", u"a", u"b", 0), u"aaa");
-    EXPECT_EQ(members().vkrReplaceInString(u"a OR b or c", u"or|and", u"AND"), u"a AND b AND c");
-    EXPECT_EQ(members().vkrReplaceInString(u"id, pid, id", u"id", u"x", 1, true, false, true, true),
+    lib l = members();
+    EXPECT_EQ(l.vkrReplaceInString(u"aa", u"a", u"aa"), u"aaaa");
+    EXPECT_EQ(l.vkrReplaceInString(u"aaa", u"a", u"b", 2), u"abb");
+    EXPECT_EQ(l.vkrReplaceInString(u"aaa", u"a", u"b", 0), u"aaa");
+    EXPECT_EQ(l.vkrReplaceInString(u"a OR b or c", u"or|and", u"AND"), u"a AND b AND c");
+    EXPECT_EQ(l.vkrReplaceInString(u"id, pid, id", u"id", u"x", 1, true, false, true, true),
               u"x, pid, x");
-    EXPECT_EQ(members().vkrReplaceInString(u"abc", u"", u"x"), u"abc");
+    EXPECT_EQ(l.vkrReplaceInString(u"abc", u"", u"x"), u"abc");
     // An empty alternative is replaced at the same place for ever, unless a quote it inserts
     // protects the rest.
-    EXPECT_EQ(errorOf([] { members().vkrReplaceInString(u"ab", u"|", u"x"); }), vberr::overflow);
-    EXPECT_EQ(errorOf([] { members().vkrReplaceInString(u"ab", u"b|", u""); }), vberr::overflow);
-    EXPECT_EQ(members().vkrReplaceInString(u"ab", u"|", u"\""), u"\"ab");
+    EXPECT_EQ(errorOf([&] { l.vkrReplaceInString(u"ab", u"|", u"x"); }), vberr::overflow);
+    EXPECT_EQ(errorOf([&] { l.vkrReplaceInString(u"ab", u"b|", u""); }), vberr::overflow);
+    EXPECT_EQ(l.vkrReplaceInString(u"ab", u"|", u"\""), u"\"ab");
 }
 
 TEST(TextReplace, OnlyAtBeginningReplacesOneLeadingMatch) {
-    EXPECT_EQ(members().vkrReplaceInString(u"  select a", u"select", u"SELECT", 1, true, true),
+    lib l = members();
+    EXPECT_EQ(l.vkrReplaceInString(u"  select a", u"select", u"SELECT", 1, true, true),
               u"  SELECT a");
-    EXPECT_EQ(members().vkrReplaceInString(u"a select", u"select", u"x", 1, true, true),
-              u"a select");
-    EXPECT_EQ(members().vkrReplaceInString(u"a a", u"a", u"x", 1, true, true), u"x a");
+    EXPECT_EQ(l.vkrReplaceInString(u"a select", u"select", u"x", 1, true, true), u"a select");
+    EXPECT_EQ(l.vkrReplaceInString(u"a a", u"a", u"x", 1, true, true), u"x a");
     // The trimmed text may pass the whole-word test where the text itself does not.
-    EXPECT_EQ(members().vkrReplaceInString(u"cats ", u"cat", u"dog", 1, true, true, true, true),
-              u"cats ");
-    EXPECT_EQ(members(en).vkrReplaceInStringExt(u"aab", u"a", u"x", 1, true, true), u"xab");
-    EXPECT_EQ(members(en).vkrReplaceInStringExt(u"aab", u"a", u"", 1, true, true), u"b");
-    EXPECT_EQ(members(en).vkrReplaceInStringExt(u" ab", u"a", u"x", 1, true, true), u" ab");
+    EXPECT_EQ(l.vkrReplaceInString(u"cats ", u"cat", u"dog", 1, true, true, true, true), u"cats ");
+    EXPECT_EQ(l.vkrReplaceInStringExt(u"aab", u"a", u"x", 1, true, true), u"xab");
+    EXPECT_EQ(l.vkrReplaceInStringExt(u"aab", u"a", u"", 1, true, true), u"b");
+    EXPECT_EQ(l.vkrReplaceInStringExt(u" ab", u"a", u"x", 1, true, true), u" ab");
 }
 
 TEST(TextReplace, ExtSkipsSignPairsAndNumericWords) {
-    EXPECT_EQ(members(en).vkrReplaceInStringExt(u"a = 'a' (a)", u"a", u"b", 1, true, false, false,
-                                                false, false, u"''|()"),
+    lib l = members();
+    EXPECT_EQ(l.vkrReplaceInStringExt(u"a = 'a' (a)", u"a", u"b", 1, true, false, false, false,
+                                      false, u"''|()"),
               u"b = 'a' (a)");
-    EXPECT_EQ(members(en).vkrReplaceInStringExt(u"\"a\"", u"a", u"b"), u"\"b\"");
-    EXPECT_EQ(
-        members(en).vkrReplaceInStringExt(u"(1.5) x.y", u".", u",", 1, true, false, false, true),
-        u"(1.5) x,y");
-    EXPECT_EQ(members(en).vkrReplaceInStringExt(u"(1.5) x.y", u".", u",", 1, true, false, false,
-                                                false, true),
+    EXPECT_EQ(l.vkrReplaceInStringExt(u"\"a\"", u"a", u"b"), u"\"b\"");
+    EXPECT_EQ(l.vkrReplaceInStringExt(u"(1.5) x.y", u".", u",", 1, true, false, false, true),
+              u"(1.5) x,y");
+    EXPECT_EQ(l.vkrReplaceInStringExt(u"(1.5) x.y", u".", u",", 1, true, false, false, false, true),
               u"(1,5) x.y");
-    EXPECT_EQ(members(en).vkrReplaceInStringExt(u"(1.5) x.y", u".", u",", 1, true, false, false,
-                                                true, true),
+    EXPECT_EQ(l.vkrReplaceInStringExt(u"(1.5) x.y", u".", u",", 1, true, false, false, true, true),
               u"(1.5) x.y");
 }
 
 TEST(TextReplace, OverflowsWhenThePositionPassesTheIntegerRange) {
+    lib l = members();
     const std::u16string x(32760, u'x');
-    EXPECT_EQ(errorOf([&] { members().vkrReplaceInString(x + u"a", u"a", u"bbbbbbb"); }),
-              vberr::overflow);
-    EXPECT_EQ(members().vkrReplaceInString(x + u"a", u"a", u"bbbbbb"), x + u"bbbbbb");
+    EXPECT_EQ(errorOf([&] { l.vkrReplaceInString(x + u"a", u"a", u"bbbbbbb"); }), vberr::overflow);
+    EXPECT_EQ(l.vkrReplaceInString(x + u"a", u"a", u"bbbbbb"), x + u"bbbbbb");
     // A skip from 32767 overflows too; a match beyond the range is not found at all.
-    EXPECT_EQ(errorOf([&] { members().vkrReplaceInString(u"\"" + x + u"xxxxxa", u"a", u"b"); }),
+    EXPECT_EQ(errorOf([&] { l.vkrReplaceInString(u"\"" + x + u"xxxxxa", u"a", u"b"); }),
               vberr::overflow);
-    EXPECT_EQ(members().vkrReplaceInString(x + u"xxxxxxxa", u"a", u"b"), x + u"xxxxxxxa");
-    EXPECT_EQ(errorOf([&] { members(en).vkrReplaceInStringExt(x + u"a", u"a", u"bbbbbbb"); }),
+    EXPECT_EQ(l.vkrReplaceInString(x + u"xxxxxxxa", u"a", u"b"), x + u"xxxxxxxa");
+    EXPECT_EQ(errorOf([&] { l.vkrReplaceInStringExt(x + u"a", u"a", u"bbbbbbb"); }),
               vberr::overflow);
     EXPECT_EQ(replaceInString(x + u"a", u"a", u"bbbbbbb", 1, {}), x + u"bbbbbbb");
 }
