@@ -12,11 +12,6 @@ using namespace std::string_literals;
 const std::string sample = "[section1]\r\nname1=val1\r\nname2=\"val2\"\r\nname3\r\nname4=a\r\n"
                            "[section2]\r\n";
 
-std::optional<std::u16string> valueOf(const IniDocument& doc, std::u16string_view section,
-                                      std::u16string_view key) {
-    return doc.value(section, key);
-}
-
 TEST(IniDocument, ReadsLikeTheProfileFunctions) {
     struct Case {
         std::string text;
@@ -54,7 +49,7 @@ TEST(IniDocument, ReadsLikeTheProfileFunctions) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.text);
-        EXPECT_EQ(valueOf(IniDocument(c.text), c.section, c.key), c.expected);
+        EXPECT_EQ(IniDocument(c.text).value(c.section, c.key), c.expected);
     }
 }
 

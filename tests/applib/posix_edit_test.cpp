@@ -20,12 +20,6 @@ namespace {
 using posixtest::contentOf;
 using posixtest::ScopedEnv;
 
-bool waitFor(const std::filesystem::path& file) {
-    for (int i = 0; i < 200 && !std::filesystem::exists(file); ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(25));
-    return std::filesystem::exists(file);
-}
-
 TEST(PosixEditing, AFolderNameIsNeverReadAsCommandSyntax) {
     fake::TempFolder tmp;
     const fake::CurrentDirectoryGuard cwd;
@@ -70,7 +64,9 @@ TEST(PosixEditing, AFolderNameIsNeverReadAsCommandSyntax) {
         ASSERT_TRUE(std::filesystem::exists(iniFile));
 
         app->editINIFile();
-        ASSERT_TRUE(waitFor(doneFile));
+        for (int i = 0; i < 200 && !std::filesystem::exists(doneFile); ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(25));
+        ASSERT_TRUE(std::filesystem::exists(doneFile));
         EXPECT_EQ(contentOf(argvFile), c.argumentsBefore + iniFile + "\n");
         EXPECT_FALSE(std::filesystem::exists(tmp.path() / "X"));
         EXPECT_FALSE(std::filesystem::exists(tmp.path() / folderName / "X"));

@@ -170,12 +170,6 @@ TEST(PosixShell, StartsWithoutWaitingAndReportsMissingPrograms) {
     EXPECT_TRUE(std::filesystem::exists(marker));
 }
 
-} // namespace
-} // namespace velkor6::posix
-
-namespace velkor6::posix {
-namespace {
-
 TEST(PosixEnvironment, CommandLineReadsBackAsTheProcessArguments) {
     std::ifstream in("/proc/self/cmdline", std::ios::binary);
     std::string raw((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
