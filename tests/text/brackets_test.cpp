@@ -6,8 +6,9 @@
 namespace velkor6::text {
 namespace {
 
-TEST(Brackets, ExtractNestedRegionsOutsideQuotes) {
-    lib l = members();
+using Brackets = MemberTest;
+
+TEST_F(Brackets, ExtractNestedRegionsOutsideQuotes) {
     EXPECT_EQ(l.vkrExtractBrackets(u"Sum(a * (b + 1)) + c"), u"a * (b + 1)");
     EXPECT_EQ(l.vkrExtractBrackets(u"x = ')' & f(1)"), u"1");
     EXPECT_EQ(l.vkrExtractBrackets(uR"(f("(", g(2)))"), uR"("(", g(2))");
@@ -28,8 +29,7 @@ TEST(Brackets, ExtractNestedRegionsOutsideQuotes) {
     EXPECT_EQ(l.vkrPhraseWithoutBrackets(u"a (b) (c"), u"a (c");
 }
 
-TEST(Brackets, SplitExpressionsAndFunctionCalls) {
-    lib l = members();
+TEST_F(Brackets, SplitExpressionsAndFunctionCalls) {
     std::u16string rest;
     EXPECT_EQ(l.vkrExtractExpression(u"f(a, b), 'x,y', 3", u",", u"()|[]|{}", true, &rest),
               u"f(a, b)");
@@ -62,7 +62,7 @@ TEST(Brackets, SplitExpressionsAndFunctionCalls) {
     }
 }
 
-TEST(Brackets, DecimalSeparatorsBecomePoints) {
+TEST_F(Brackets, DecimalSeparatorsBecomePoints) {
     lib german = members(Locale::germanGermany());
     EXPECT_EQ(german.vkrReplaceDecimalChars(u"Preis > 1.234,5 AND Code = '2,5' AND x1,5"),
               u"Preis > 1234.5 AND Code = '2,5' AND x1,5");
@@ -70,15 +70,13 @@ TEST(Brackets, DecimalSeparatorsBecomePoints) {
               u"IN (1, 5) OR v = 1.5E-3 OR w = 1.234 OR y = 1,2,3");
     EXPECT_EQ(german.vkrReplaceDecimalChars(u"a = 12.34,5 OR b = 1,5x OR \"1,5\" = 0,25"),
               u"a = 12.34,5 OR b = 1,5x OR \"1,5\" = 0.25");
-    lib english = members();
-    EXPECT_EQ(english.vkrReplaceDecimalChars(u"a = 1,234,567.5 OR b = 1,500 OR c = 1,23.4"),
+    EXPECT_EQ(l.vkrReplaceDecimalChars(u"a = 1,234,567.5 OR b = 1,500 OR c = 1,23.4"),
               u"a = 1234567.5 OR b = 1,500 OR c = 1,23.4");
-    EXPECT_EQ(english.vkrReplaceDecimalChars(u"a = 2,5", u","), u"a = 2.5");
-    EXPECT_EQ(errorOf([&] { english.vkrReplaceDecimalChars(u"1", u",."); }), vberr::invalidCall);
+    EXPECT_EQ(l.vkrReplaceDecimalChars(u"a = 2,5", u","), u"a = 2.5");
+    EXPECT_EQ(errorOf([&] { l.vkrReplaceDecimalChars(u"1", u",."); }), vberr::invalidCall);
 }
 
-TEST(Brackets, ResourceTextsToXmlAndBack) {
-    lib l = members();
+TEST_F(Brackets, ResourceTextsToXmlAndBack) {
     EXPECT_EQ(l.vkrResConv(u"&Save <all> \"it's\"\t\r\n"),
               u"&amp;Save &lt;all&gt; &quot;it&apos;s&quot;&#9;&#13;&#10;");
     EXPECT_EQ(l.vkrResConv(u"&amp;Ja&#10;&#x1F600;&#65;&#xd800;&#0;&bogus; & &#12", false),

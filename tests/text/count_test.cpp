@@ -11,8 +11,9 @@
 namespace velkor6::text {
 namespace {
 
-TEST(TextCount, CountsNonOverlappingOccurrencesOfEachAlternative) {
-    lib l = members();
+using TextCount = MemberTest;
+
+TEST_F(TextCount, CountsNonOverlappingOccurrencesOfEachAlternative) {
     EXPECT_EQ(l.vkrCountSubString(u"aaaa", u"aa"), 2);
     EXPECT_EQ(l.vkrCountSubString(u"abc", u"a|b"), 2);
     EXPECT_EQ(l.vkrCountSubString(u"abc", u"ab|b"), 2); // counted once per alternative
@@ -27,8 +28,7 @@ TEST(TextCount, CountsNonOverlappingOccurrencesOfEachAlternative) {
     EXPECT_EQ(errorOf([&] { countSubString(u"abc", u"|", 1, Compare::Text); }), vberr::overflow);
 }
 
-TEST(TextCount, LeavesOutOccurrencesInsideSignPairs) {
-    lib l = members();
+TEST_F(TextCount, LeavesOutOccurrencesInsideSignPairs) {
     const std::u16string_view sql = u"a = 'a' AND (a) OR \"a\"";
     EXPECT_EQ(l.vkrCountSubStringExt(sql, u"a"), 5);
     EXPECT_EQ(l.vkrCountSubStringExt(sql, u"a", 1, true, u"''"), 4);
@@ -36,8 +36,7 @@ TEST(TextCount, LeavesOutOccurrencesInsideSignPairs) {
     EXPECT_EQ(l.vkrCountSubStringExt(sql, u"a", 1, true, u"'|x()"), 5); // not pairs
 }
 
-TEST(TextCount, OverflowsWhereAnIntegerPositionOrCountWould) {
-    lib l = members();
+TEST_F(TextCount, OverflowsWhereAnIntegerPositionOrCountWould) {
     const std::u16string many(32766, u'a');
     EXPECT_EQ(l.vkrCountSubString(many, u"a", 2), 32765);
     // The last occurrence ends at 32767: the position after it no longer fits.
@@ -54,7 +53,7 @@ TEST(TextCount, OverflowsWhereAnIntegerPositionOrCountWould) {
     EXPECT_EQ(l.vkrCountSubString(text + u"xxxxxxab", u"ab"), 0);
 }
 
-TEST(TextCount, ExtAgreesWithTheStepByStepLoop) {
+TEST_F(TextCount, ExtAgreesWithTheStepByStepLoop) {
     testing::RandomText random(7);
     for (int round = 0; round < 3000; ++round) {
         const std::u16string source = random.text(24);

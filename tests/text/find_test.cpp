@@ -7,8 +7,9 @@
 namespace velkor6::text {
 namespace {
 
-TEST(TextFind, PicksTheEarliestOrTheFirstListedAlternative) {
-    lib l = members();
+using TextFind = MemberTest;
+
+TEST_F(TextFind, PicksTheEarliestOrTheFirstListedAlternative) {
     std::u16string found = u"untouched";
     EXPECT_EQ(
         l.vkrFindSubString(u"Select a, b FROM t", u"from|select", 1, true, true, false, &found), 1);
@@ -33,8 +34,7 @@ TEST(TextFind, PicksTheEarliestOrTheFirstListedAlternative) {
     EXPECT_EQ(l.vkrFindSubString(u"abc", u"a", -5), 0);
 }
 
-TEST(TextFind, WholeWordsNeedDelimitersExceptBeforeTheLastCharacter) {
-    lib l = members();
+TEST_F(TextFind, WholeWordsNeedDelimitersExceptBeforeTheLastCharacter) {
     struct Case {
         std::u16string_view source, find;
         std::int16_t expected;
@@ -53,8 +53,7 @@ TEST(TextFind, WholeWordsNeedDelimitersExceptBeforeTheLastCharacter) {
     }
 }
 
-TEST(TextFind, LastOccurrenceAndPresence) {
-    lib l = members();
+TEST_F(TextFind, LastOccurrenceAndPresence) {
     EXPECT_EQ(l.vkrFindLastSubString(u"aaaa", u"aa"), 3);
     EXPECT_EQ(l.vkrFindLastSubString(u"a|b a|b", u"A|B"), 5); // "|" is not special here
     EXPECT_EQ(l.vkrFindLastSubString(u"a|b a|b", u"A|B", 1, false), 0);
@@ -66,8 +65,7 @@ TEST(TextFind, LastOccurrenceAndPresence) {
     EXPECT_EQ(l.vkrHasSubString(u"", u"a"), 0);
 }
 
-TEST(TextFind, GetsTheTrimmedTextBetweenTwoTerms) {
-    lib l = members();
+TEST_F(TextFind, GetsTheTrimmedTextBetweenTwoTerms) {
     EXPECT_EQ(l.vkrGetSubString(u"SELECT  a, b  FROM t", u"select", u"from"), u"a, b");
     EXPECT_EQ(l.vkrGetSubString(u"SELECT a FROM t", u"select", u""), u"a FROM t");
     EXPECT_EQ(l.vkrGetSubString(u"SELECT a FROM t", u"", u"from"), u"SELECT a");
@@ -78,8 +76,7 @@ TEST(TextFind, GetsTheTrimmedTextBetweenTwoTerms) {
     EXPECT_EQ(l.vkrGetSubString(u"fromage from t", u"from", u"", 1, true, true), u"t");
 }
 
-TEST(TextFind, SeparatesAtTheFirstListedAlternativeThatOccurs) {
-    lib l = members();
+TEST_F(TextFind, SeparatesAtTheFirstListedAlternativeThatOccurs) {
     std::u16string before, term, after;
     l.vkrSeparateString(u" a = b < c ", u"<|=", before, term, after);
     EXPECT_EQ(before, u"a = b");
@@ -96,8 +93,7 @@ TEST(TextFind, SeparatesAtTheFirstListedAlternativeThatOccurs) {
     EXPECT_EQ(term, u"a B c");
 }
 
-TEST(TextFind, PositionsBeyondTheIntegerRangeAreNotFound) {
-    lib l = members();
+TEST_F(TextFind, PositionsBeyondTheIntegerRangeAreNotFound) {
     std::u16string text(32765, u'x');
     text += u" cat cat";
     // The first "cat" starts at 32767, the second one beyond the Integer range.

@@ -13,8 +13,9 @@ namespace {
 
 const Locale& en = Locale::englishUS();
 
-TEST(TextReplace, LeavesDoubleQuotedLiteralsAlone) {
-    lib l = members();
+using TextReplace = MemberTest;
+
+TEST_F(TextReplace, LeavesDoubleQuotedLiteralsAlone) {
     EXPECT_EQ(l.vkrReplaceInString(u"x = \"a\" & a", u"a", u"b"), u"x = \"a\" & b");
     EXPECT_EQ(l.vkrReplaceInString(u"x = \"A\" & A", u"a", u"b", 1, false), u"x = \"A\" & b");
     EXPECT_EQ(l.vkrReplaceInString(u"x = \"a\" & a", u"a", u"b", 1, true, false, false),
@@ -25,8 +26,7 @@ TEST(TextReplace, LeavesDoubleQuotedLiteralsAlone) {
     EXPECT_EQ(l.vkrReplaceInString(u"a a \"x\"", u"a", u"\""), u"\" a \"x\"");
 }
 
-TEST(TextReplace, ReplacesEachMatchOnceFromTheStart) {
-    lib l = members();
+TEST_F(TextReplace, ReplacesEachMatchOnceFromTheStart) {
     EXPECT_EQ(l.vkrReplaceInString(u"aa", u"a", u"aa"), u"aaaa");
     EXPECT_EQ(l.vkrReplaceInString(u"aaa", u"a", u"b", 2), u"abb");
     EXPECT_EQ(l.vkrReplaceInString(u"aaa", u"a", u"b", 0), u"aaa");
@@ -41,8 +41,7 @@ TEST(TextReplace, ReplacesEachMatchOnceFromTheStart) {
     EXPECT_EQ(l.vkrReplaceInString(u"ab", u"|", u"\""), u"\"ab");
 }
 
-TEST(TextReplace, OnlyAtBeginningReplacesOneLeadingMatch) {
-    lib l = members();
+TEST_F(TextReplace, OnlyAtBeginningReplacesOneLeadingMatch) {
     EXPECT_EQ(l.vkrReplaceInString(u"  select a", u"select", u"SELECT", 1, true, true),
               u"  SELECT a");
     EXPECT_EQ(l.vkrReplaceInString(u"a select", u"select", u"x", 1, true, true), u"a select");
@@ -54,8 +53,7 @@ TEST(TextReplace, OnlyAtBeginningReplacesOneLeadingMatch) {
     EXPECT_EQ(l.vkrReplaceInStringExt(u" ab", u"a", u"x", 1, true, true), u" ab");
 }
 
-TEST(TextReplace, ExtSkipsSignPairsAndNumericWords) {
-    lib l = members();
+TEST_F(TextReplace, ExtSkipsSignPairsAndNumericWords) {
     EXPECT_EQ(l.vkrReplaceInStringExt(u"a = 'a' (a)", u"a", u"b", 1, true, false, false, false,
                                       false, u"''|()"),
               u"b = 'a' (a)");
@@ -68,8 +66,7 @@ TEST(TextReplace, ExtSkipsSignPairsAndNumericWords) {
               u"(1.5) x.y");
 }
 
-TEST(TextReplace, OverflowsWhenThePositionPassesTheIntegerRange) {
-    lib l = members();
+TEST_F(TextReplace, OverflowsWhenThePositionPassesTheIntegerRange) {
     const std::u16string x(32760, u'x');
     EXPECT_EQ(errorOf([&] { l.vkrReplaceInString(x + u"a", u"a", u"bbbbbbb"); }), vberr::overflow);
     EXPECT_EQ(l.vkrReplaceInString(x + u"a", u"a", u"bbbbbb"), x + u"bbbbbb");
@@ -82,7 +79,7 @@ TEST(TextReplace, OverflowsWhenThePositionPassesTheIntegerRange) {
     EXPECT_EQ(replaceInString(x + u"a", u"a", u"bbbbbbb", 1, {}), x + u"bbbbbbb");
 }
 
-TEST(TextReplace, AgreesWithTheStepByStepLoop) {
+TEST_F(TextReplace, AgreesWithTheStepByStepLoop) {
     testing::RandomText random(11);
     for (int round = 0; round < 4000; ++round) {
         const std::u16string source = random.text(20);

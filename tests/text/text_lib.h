@@ -4,6 +4,7 @@
 
 #include "velkor6/lib.h"
 
+#include <gtest/gtest.h>
 #include <memory>
 
 namespace velkor6::text {
@@ -11,5 +12,10 @@ namespace velkor6::text {
 inline lib members(const Locale& locale = Locale::englishUS()) {
     return lib(std::make_shared<Module>(std::make_unique<Platform>(), locale));
 }
+
+class MemberTest : public ::testing::Test {
+protected:
+    lib l = members();
+};
 
 } // namespace velkor6::text
