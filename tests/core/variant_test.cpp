@@ -11,6 +11,7 @@ TEST(Variant, CopiesArraysDeeplyAndReportsTypes) {
     b.array().items[0] = Variant(2.5);
     EXPECT_EQ(a.array().items[0], Variant(std::int16_t{1}));
     EXPECT_EQ(b.type(), VarType::Array | VarType::Variant);
+    EXPECT_EQ(Variant::nothing().type(), VarType::Object);
     EXPECT_NE(Variant(std::int16_t{1}), Variant(std::int32_t{1}));
 }
 
