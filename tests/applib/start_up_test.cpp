@@ -79,7 +79,7 @@ TEST_F(StartUp, AnUninitialisedContextTouchesNoSettingsFile) {
     EXPECT_EQ(bare.logFile(), u"C:\\Users\\Test\\AppData\\Local\\Temp\\globals.log");
 }
 
-TEST(ApplicationTexts, VersionAndLogLines) {
+TEST(ApplicationTexts, VersionAndMultiLineLogEntries) {
     const auto version = [](std::int16_t major, std::int16_t minor, std::int16_t revision) {
         return app::versionText({u"", u"", major, minor, revision});
     };
@@ -88,10 +88,7 @@ TEST(ApplicationTexts, VersionAndLogLines) {
     EXPECT_EQ(version(0, -1, -5), u"0.-01.-0005");
 
     const DateParts at{2024, 1, 2, 3, 4, 5};
-    EXPECT_EQ(app::logLine(at, u""), u"02.01.2024 03:04:05         \r\n");
     EXPECT_EQ(app::logLine(at, u"a\r\nb").substr(28), u"a\r\nb\r\n");
-    EXPECT_EQ(app::errorText(53, u"File not found", u"Main.Load"),
-              u"ERR=53 'File not found' (Source=Main.Load)");
 }
 
 TEST_F(StartUp, LogEntriesAppendAndAFailedWriteIsSilent) {
