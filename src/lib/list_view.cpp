@@ -318,7 +318,9 @@ void addListViewMembers(Table<lib>& t) {
          u"\"2\", \"10\" sort as 2, 10, 12, and \"n/a\" sorts with 0. The comparers answer 0 "
          u"(first item first), 1 (equal) or 2 (first item after) and the sort only asks whether "
          u"the second goes first, so equal cells may change places. The column and direction are "
-         u"kept library-wide for the comparers. oListView's MousePointer shows the hourglass "
+         u"kept library-wide for the comparers. Only the first filled cell in the current order "
+         u"decides the type: once an ascending sort has put a cell that is no number first, the "
+         u"next sort of that column is a text sort. oListView's MousePointer shows the hourglass "
          u"during the call. Without a window behind hwnd a number or date column is left "
          u"unsorted."});
     t.push_back(
