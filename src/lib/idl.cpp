@@ -187,6 +187,7 @@ void writeIdl(std::ostream& out) {
         {"RegistryErrorCodeConstants", registryErrorCodeConstantsMembers},
         {"RegistryOptions", registryOptionsMembers},
         {"Constants", constantsMembers},
+        {"ButtonStyleConsts", buttonStyleConstsMembers},
     };
     for (const PublicEnum& e : enums)
         writeEnum(out, e);
