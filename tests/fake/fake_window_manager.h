@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -84,6 +85,12 @@ public:
     bool confinePointer(std::optional<WindowRect> area) override;
     FrameMetrics frameMetrics(WindowHandle) override { return frame_; }
 
+    // --- Control windows by handle (window styles of text boxes and buttons) ----------------
+    void addControlWindow(WindowHandle handle, std::shared_ptr<ControlWindow> window) {
+        controlWindows_[handle] = std::move(window);
+    }
+    std::shared_ptr<ControlWindow> controlWindow(WindowHandle handle) override;
+
 private:
     struct Monitor {
         WindowRect bounds;
@@ -105,6 +112,7 @@ private:
     std::int32_t screenWidth_ = 1920;
     std::int32_t screenHeight_ = 1080;
     TwipsPerPixel twips_;
+    std::map<WindowHandle, std::shared_ptr<ControlWindow>> controlWindows_;
 };
 
 } // namespace velkor6::fake
