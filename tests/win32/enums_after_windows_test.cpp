@@ -7,8 +7,9 @@
 
 #include "velkor6/enums.h"
 
-#include <cstdint>
 #include <gtest/gtest.h>
+
+#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -25,9 +26,9 @@ std::int32_t valueOf(std::span<const velkor6::EnumMember> members, std::u16strin
 TEST(EnumsAfterWindowsHeaders, KeepTheSystemsMacrosAndValues) {
     // Still the system's macros after the header: a key handle, a folder number, a right.
     const HKEY root = HKEY_CLASSES_ROOT;
-    EXPECT_EQ(
-        reinterpret_cast<std::intptr_t>(root),
-        static_cast<std::int32_t>(valueOf(velkor6::registryKeysMembers, u"HKEY_CLASSES_ROOT")));
+    EXPECT_EQ(reinterpret_cast<std::intptr_t>(root),
+              static_cast<std::int32_t>(valueOf(velkor6::registryKeysMembers,
+                                                u"HKEY_CLASSES_ROOT")));
     EXPECT_EQ(valueOf(velkor6::specialFolderConstsMembers, u"CSIDL_APPDATA"), CSIDL_APPDATA);
     EXPECT_EQ(valueOf(velkor6::registryRightsMembers, u"KEY_QUERY_VALUE"), KEY_QUERY_VALUE);
     EXPECT_EQ(valueOf(velkor6::registryValueTypesMembers, u"REG_DWORD"), REG_DWORD);
