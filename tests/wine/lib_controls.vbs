@@ -1,7 +1,8 @@
 ' Class lib's list box, tab strip and field members from a late-bound client, over controls
 ' made of VBScript classes: each is an IDispatch object answering the members a control has.
 ' Check, Fail and the counters come from check.inc, which the runner puts first. Wine's VBScript
-' takes one name per Public or Private line of a class.
+' takes one name per Public or Private line of a class, and calls no default member of an object
+' held in a class's variable: the elements of a control array are read with .Item(i).
 
 ' A multi-select list box whose items carry the flags 1, 2, 4 and 5; item 1 is selected.
 Class FlagList
@@ -203,12 +204,12 @@ Set strip.SelectedItem = New Ctl
 strip.SelectedItem.Index = 2
 Set strip.Parent = form
 o.vkrOnTabClick strip, "fraTab" : Check "vkrOnTabClick", Err.Number, CLng(0)
-Check "vkrOnTabClick hides container 1", form.fraTab(1).Visible, False
-Check "vkrOnTabClick shows container 2", form.fraTab(2).Visible, True
-Check "vkrOnTabClick hides container 3", form.fraTab(3).Visible, False
+Check "vkrOnTabClick hides container 1", form.fraTab.Item(1).Visible, False
+Check "vkrOnTabClick shows container 2", form.fraTab.Item(2).Visible, True
+Check "vkrOnTabClick hides container 3", form.fraTab.Item(3).Visible, False
 
 r = Empty : r = o.vkrGetOptionIndex(form, "optKind") : Check "vkrGetOptionIndex with none set", r, -1
-form.optKind(3).Value = True
+form.optKind.Item(3).Value = True
 r = Empty : r = o.vkrGetOptionIndex(form, "optKind") : Check "vkrGetOptionIndex", r, 3
 
 ' --- Text selection, focus, control arrays --------------------------------------------------
@@ -231,7 +232,7 @@ o.vkrSetFocus field : Check "vkrSetFocus on a hidden field", field.focused, 0
 field.Visible = True
 o.vkrSetFocus field : Check "vkrSetFocus", field.focused, 1
 
-Set element = form.fraTab(2)
+Set element = form.fraTab.Item(2)
 element.Name = "fraTab"
 Set plain = New Lone
 plain.Name = "cmdOK"
