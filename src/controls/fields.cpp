@@ -33,6 +33,10 @@ void selectWholeText(Object& field, bool changeSelection, const Locale& loc) {
     let(field, u"SelLength", {Variant(length)});
 }
 
+void showTip(Object& field, Object& panel) {
+    let(panel, u"Text", {get(field, u"ToolTipText")});
+}
+
 bool hasIndex(Object& control) {
     try {
         get(control, u"Index");

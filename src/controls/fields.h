@@ -21,6 +21,9 @@ bool isWholeTextSelected(Object& field, const Locale& loc);
 // already (SelLength > 0) keeps that selection.
 void selectWholeText(Object& field, bool changeSelection, const Locale& loc);
 
+// The status panel's Text becomes the field's ToolTipText.
+void showTip(Object& field, Object& panel);
+
 // Reading Index succeeds: the control is an element of a control array.
 bool hasIndex(Object& control);
 

@@ -65,15 +65,19 @@ void selectFlags(Object& list, std::int32_t flags, const Locale& loc) {
             {Variant(i), Variant(values::hasAllBits(flags, itemData(list, i, loc)))});
 }
 
-std::int32_t itemForReading(Object& list, std::int32_t index, const Locale& loc) {
-    return index == -1 ? toLong(get(list, u"ListIndex"), loc) : index;
+std::int32_t readItemData(Object& list, std::int32_t index, const Locale& loc) {
+    return itemData(list, index == -1 ? toLong(get(list, u"ListIndex"), loc) : index, loc);
 }
 
-std::int32_t itemForWriting(Object& list, std::int32_t index, const Locale& loc) {
-    if (index != -1)
-        return index;
-    const std::int32_t added = toLong(get(list, u"NewIndex"), loc);
-    return added != -1 ? added : toLong(get(list, u"ListIndex"), loc);
+void writeItemData(Object& list, std::int32_t index, std::int32_t value, const Locale& loc) {
+    if (index == -1) {
+        index = toLong(get(list, u"NewIndex"), loc);
+        if (index == -1)
+            index = toLong(get(list, u"ListIndex"), loc);
+        if (index == -1)
+            return;
+    }
+    let(list, u"ItemData", {Variant(index), Variant(value)});
 }
 
 bool selectItemData(Object& list, std::int32_t value, const Locale& loc) {

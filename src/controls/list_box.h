@@ -33,10 +33,12 @@ std::int32_t selectedFlags(Object& list, const Locale& loc);
 // clears the selection of all others.
 void selectFlags(Object& list, std::int32_t flags, const Locale& loc);
 
-// The item an index stands for: the index itself, or for -1 the current ListIndex (reading) or
-// the last added item, NewIndex, and ListIndex when none was added (writing); -1 for none.
-std::int32_t itemForReading(Object& list, std::int32_t index, const Locale& loc);
-std::int32_t itemForWriting(Object& list, std::int32_t index, const Locale& loc);
+// The ItemData of an item; index -1 stands for the current item (ListIndex).
+std::int32_t readItemData(Object& list, std::int32_t index, const Locale& loc);
+// Writes the ItemData of an item; index -1 stands for the item added last (NewIndex), or the
+// current one when none was added since the list was cleared, and nothing is written when there
+// is neither.
+void writeItemData(Object& list, std::int32_t index, std::int32_t value, const Locale& loc);
 
 // Sets ListIndex to the first item whose ItemData is value; false, leaving it, when none is.
 bool selectItemData(Object& list, std::int32_t value, const Locale& loc);

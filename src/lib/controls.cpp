@@ -53,21 +53,14 @@ void lib::vkrListBoxItemSumLet(const ObjectRef& oList, std::int32_t value) {
 
 std::int32_t lib::vkrListBoxData(const ObjectRef& oControl, std::int16_t iIndex) {
     return onControl(
-        oControl,
-        [&](Object& list) {
-            const std::int32_t item = controls::itemForReading(list, iIndex, locale());
-            return toLong(controls::get(list, u"ItemData", {Variant(item)}), locale());
-        },
-        0);
+        oControl, [&](Object& list) { return controls::readItemData(list, iIndex, locale()); }, 0);
 }
 
 void lib::vkrListBoxDataLet(const ObjectRef& oControl, std::int16_t iIndex, std::int32_t value) {
     onControl(
         oControl,
         [&](Object& list) {
-            const std::int32_t item = controls::itemForWriting(list, iIndex, locale());
-            if (item >= 0)
-                controls::let(list, u"ItemData", {Variant(item), Variant(value)});
+            controls::writeItemData(list, iIndex, value, locale());
             return 0;
         },
         0);
@@ -119,7 +112,7 @@ void lib::vkrSelectField(const ObjectRef& oCtrl, bool bChangeSelection,
         StatusPanel,
         [&](Object& panel) {
             if (oCtrl)
-                controls::let(panel, u"Text", {controls::get(*oCtrl, u"ToolTipText")});
+                controls::showTip(*oCtrl, panel);
             return 0;
         },
         0);
