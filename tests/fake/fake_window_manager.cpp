@@ -188,9 +188,4 @@ std::optional<WindowRect> FakeWindowManager::workArea(std::int32_t x, std::int32
     return nearest->work;
 }
 
-std::shared_ptr<ControlWindow> FakeWindowManager::controlWindow(WindowHandle handle) {
-    const auto it = controlWindows_.find(handle);
-    return it != controlWindows_.end() ? it->second : nullptr;
-}
-
 } // namespace velkor6::fake

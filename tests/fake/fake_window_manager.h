@@ -84,14 +84,8 @@ public:
     bool confinePointer(std::optional<WindowRect> area) override;
     FrameMetrics frameMetrics(WindowHandle) override { return frame_; }
     std::shared_ptr<ControlWindow> controlWindow(WindowHandle handle) override;
-    // The control window (a list view) the handle stands for.
+    // The control window (a list view, text box or button) the handle stands for.
     void addControlWindow(WindowHandle handle, std::shared_ptr<ControlWindow> window);
-
-    // --- Control windows by handle (window styles of text boxes and buttons) ----------------
-    void addControlWindow(WindowHandle handle, std::shared_ptr<ControlWindow> window) {
-        controlWindows_[handle] = std::move(window);
-    }
-    std::shared_ptr<ControlWindow> controlWindow(WindowHandle handle) override;
 
 private:
     struct Monitor {
@@ -115,7 +109,6 @@ private:
     std::int32_t screenWidth_ = 1920;
     std::int32_t screenHeight_ = 1080;
     TwipsPerPixel twips_;
-    std::map<WindowHandle, std::shared_ptr<ControlWindow>> controlWindows_;
 };
 
 } // namespace velkor6::fake
