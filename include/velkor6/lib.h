@@ -301,6 +301,7 @@ public:
                                 const Variant& sDefaultTooltip = u"");
     void vkrCopyListView(const ObjectRef& oSource, const ObjectRef& oTarget);
     std::int32_t vkrLVWCallback(std::int32_t pfn);
+
     // --- List box, tab and field helpers ---------------------------------------------------
     // The caller's controls answer their VB members by name; a control array X of a form is
     // the form's property X, answering LBound, UBound and Item. Errors give neutral results.

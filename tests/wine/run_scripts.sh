@@ -4,6 +4,8 @@
 # the DLL again. A client passes when it exits with 0 and printed its "N passed, M failed"
 # line: Wine's cscript exits with 0 and prints nothing on a syntax error. Each client runs under
 # ANSWERER (answer_boxes.exe), which presses the default button of every box the client shows.
+# Test-only servers that clients create (VELKOR6_TEST_SERVERS, paths separated by ":") are
+# registered beside it, with their own DllRegisterServer.
 # usage: run_scripts.sh BUILD_DIR DLL ANSWERER CLIENT...
 set -u
 build=$1
@@ -19,11 +21,28 @@ if ! winsys regsvr32 /s /n /i:machine "$dllPath" >/dev/null 2>&1; then
     exit 1
 fi
 
+servers=()
+IFS=: read -r -a servers <<<"${VELKOR6_TEST_SERVERS:-}"
+unregister() {
+    local server
+    for server in "${servers[@]}"; do
+        winsys regsvr32 /s /u "$(winpath "$server")" >/dev/null 2>&1
+    done
+    winsys regsvr32 /s /u /n /i:machine "$dllPath" >/dev/null 2>&1
+}
+for server in "${servers[@]}"; do
+    if ! winsys regsvr32 /s "$(winpath "$server")" >/dev/null 2>&1; then
+        echo "regsvr32 failed for $server"
+        unregister
+        exit 1
+    fi
+done
+
 # A folder of this run's own: runs of other builds may be going at the same time.
 work=$(mktemp -d)
 log=$work/log
 # Programs the clients started (an editor, say) end with the prefix's server.
-trap 'winsys regsvr32 /s /u /n /i:machine "$dllPath" >/dev/null 2>&1; wineserver -k; rm -rf "$work"' EXIT
+trap 'unregister; wineserver -k; rm -rf "$work"' EXIT
 
 passed=0
 failed=0

@@ -1,4 +1,5 @@
 // The caller's windows and the screen through user32.
+#include "platform/win32/control_window.h"
 #include "platform/win32/services.h"
 
 #include <string>
@@ -58,6 +59,10 @@ public:
             return 0;
         return static_cast<std::int32_t>(
             SendMessageW(w, message, static_cast<WPARAM>(wParam), static_cast<LPARAM>(lParam)));
+    }
+
+    std::shared_ptr<ControlWindow> controlWindow(WindowHandle window) override {
+        return openControlWindow(windowOf(window));
     }
 
     std::optional<WindowRect> workArea(std::int32_t x, std::int32_t y) override {
