@@ -448,6 +448,8 @@ inline constexpr EnumMember constantsMembers[] = {
 
 } // namespace velkor6
 
+#include "velkor6/file_dialog_enums.h"
+
 // Restores the system's macros set aside at the top.
 #pragma pop_macro("CSIDL_ADMINTOOLS")
 #pragma pop_macro("CSIDL_ALTSTARTUP")

@@ -187,6 +187,8 @@ void writeIdl(std::ostream& out) {
         {"RegistryErrorCodeConstants", registryErrorCodeConstantsMembers},
         {"RegistryOptions", registryOptionsMembers},
         {"Constants", constantsMembers},
+        {"OpenFileNameConstants", openFileNameConstantsMembers},
+        {"BrowseInfoFlagConsts", browseInfoFlagConstsMembers},
     };
     for (const PublicEnum& e : enums)
         writeEnum(out, e);

@@ -1,0 +1,182 @@
+#include "ui/win32/file_dialogs.h"
+
+// clang-format off
+#include <windows.h>
+#include <commdlg.h>
+#include <ole2.h>
+#include <shlobj.h>
+#include <shlwapi.h>
+// clang-format on
+
+#include "platform/win32/wide.h"
+
+namespace velkor6::ui::win32 {
+namespace {
+
+using velkor6::win32::fromWide;
+using velkor6::win32::wide;
+
+// Room for the names of a multiple choice: the dialog fails with FNERR_BUFFERTOOSMALL beyond it.
+constexpr DWORD fileBufferLength = 32768;
+
+// "description\0pattern\0...\0\0", as the common dialogs take their filters.
+std::wstring filterList(const std::vector<FileFilter>& filters) {
+    std::wstring list;
+    for (const FileFilter& filter : filters) {
+        list += wide(filter.description);
+        list += L'\0';
+        list += wide(filter.pattern);
+        list += L'\0';
+    }
+    list += L'\0';
+    return list;
+}
+
+// The buffer after a choice: one full path, or (several files) the folder followed by the
+// names, each ended by a NUL, the list by a second one.
+std::vector<std::u16string> chosenPaths(const std::vector<wchar_t>& buffer) {
+    std::vector<std::wstring> pieces;
+    for (const wchar_t* p = buffer.data(); *p != L'\0'; p += pieces.back().size() + 1)
+        pieces.emplace_back(p);
+    std::vector<std::u16string> paths;
+    if (pieces.size() == 1) {
+        paths.push_back(fromWide(pieces.front()));
+        return paths;
+    }
+    std::wstring folder = pieces.empty() ? std::wstring() : pieces.front();
+    if (!folder.empty() && folder.back() != L'\\')
+        folder += L'\\';
+    for (std::size_t i = 1; i < pieces.size(); ++i)
+        paths.push_back(fromWide(folder + pieces[i]));
+    return paths;
+}
+
+// The new-style chooser needs OLE on the calling thread; a caller that has it keeps it.
+class OleScope {
+public:
+    OleScope() : initialized_(SUCCEEDED(OleInitialize(nullptr))) {}
+    OleScope(const OleScope&) = delete;
+    OleScope& operator=(const OleScope&) = delete;
+    ~OleScope() {
+        if (initialized_)
+            OleUninitialize();
+    }
+
+private:
+    bool initialized_;
+};
+
+struct ItemList {
+    PIDLIST_ABSOLUTE items = nullptr;
+    ItemList(const ItemList&) = delete;
+    ItemList& operator=(const ItemList&) = delete;
+    explicit ItemList(PIDLIST_ABSOLUTE p) : items(p) {}
+    ~ItemList() { CoTaskMemFree(items); }
+};
+
+std::wstring pathOf(PCIDLIST_ABSOLUTE items) {
+    wchar_t path[MAX_PATH] = {};
+    return items != nullptr && SHGetPathFromIDListW(items, path) ? std::wstring(path)
+                                                                 : std::wstring();
+}
+
+struct ChooserState {
+    std::wstring start;
+    std::wstring selected; // the folder selected in the tree
+    std::wstring typed;    // a name the chooser did not find, when new folders are allowed
+};
+
+int CALLBACK chooserEvent(HWND window, UINT message, LPARAM value, LPARAM data) {
+    auto& state = *reinterpret_cast<ChooserState*>(data);
+    switch (message) {
+    case BFFM_INITIALIZED:
+        if (!state.start.empty())
+            SendMessageW(window, BFFM_SETSELECTIONW, TRUE,
+                         reinterpret_cast<LPARAM>(state.start.c_str()));
+        break;
+    case BFFM_SELCHANGED:
+        state.selected = pathOf(reinterpret_cast<PCIDLIST_ABSOLUTE>(value));
+        break;
+    case BFFM_VALIDATEFAILEDW:
+        // A name that is no folder yet: the chooser closes and the caller makes it.
+        state.typed = value != 0 ? reinterpret_cast<const wchar_t*>(value) : L"";
+        return 0;
+    default:
+        break;
+    }
+    return 0;
+}
+
+} // namespace
+
+std::vector<std::u16string> runFileDialog(HWND owner, const FileDialogRequest& request) {
+    const std::wstring filters = filterList(request.filters);
+    const std::wstring title = wide(request.title);
+    const std::wstring start = wide(request.startFolder);
+    const std::wstring extension = wide(request.defaultExtension);
+    std::vector<wchar_t> buffer(fileBufferLength, L'\0');
+    const std::wstring name = wide(request.fileName);
+    if (name.size() < buffer.size())
+        std::copy(name.begin(), name.end(), buffer.begin());
+
+    OPENFILENAMEW dialog{};
+    dialog.lStructSize = sizeof dialog;
+    dialog.hwndOwner = owner;
+    dialog.lpstrFilter = request.filters.empty() ? nullptr : filters.c_str();
+    dialog.nFilterIndex = static_cast<DWORD>(request.filterIndex + 1);
+    dialog.lpstrFile = buffer.data();
+    dialog.nMaxFile = fileBufferLength;
+    dialog.lpstrInitialDir = start.empty() ? nullptr : start.c_str();
+    dialog.lpstrTitle = title.empty() ? nullptr : title.c_str();
+    dialog.lpstrDefExt = extension.empty() ? nullptr : extension.c_str();
+    // The caller's current directory is the caller's: the dialog never moves it.
+    dialog.Flags = OFN_EXPLORER | OFN_NOCHANGEDIR | OFN_ENABLESIZING;
+    if (request.fileMustExist)
+        dialog.Flags |= OFN_FILEMUSTEXIST;
+    if (request.pathMustExist)
+        dialog.Flags |= OFN_PATHMUSTEXIST;
+    if (request.overwritePrompt)
+        dialog.Flags |= OFN_OVERWRITEPROMPT;
+    if (request.multiSelect)
+        dialog.Flags |= OFN_ALLOWMULTISELECT;
+    if (!request.readOnlyBox)
+        dialog.Flags |= OFN_HIDEREADONLY;
+    const BOOL chosen = request.save ? GetSaveFileNameW(&dialog) : GetOpenFileNameW(&dialog);
+    if (!chosen)
+        return {};
+    buffer.back() = L'\0';
+    return chosenPaths(buffer);
+}
+
+std::u16string runFolderDialog(HWND owner, const FolderDialogRequest& request) {
+    const OleScope ole;
+    ChooserState state{wide(request.startFolder), {}, {}};
+    const std::wstring title = wide(request.title);
+    wchar_t display[MAX_PATH] = {};
+    BROWSEINFOW browse{};
+    browse.hwndOwner = owner;
+    browse.pszDisplayName = display;
+    browse.lpszTitle = title.empty() ? nullptr : title.c_str();
+    // The shell's own "Make New Folder" button would make folders past the library's error
+    // display; a new folder is a name typed into the edit box instead.
+    browse.ulFlags = BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE | BIF_NONEWFOLDERBUTTON;
+    if (request.editBox || request.allowNewFolder)
+        browse.ulFlags |= BIF_EDITBOX;
+    if (request.allowNewFolder)
+        browse.ulFlags |= BIF_VALIDATE;
+    browse.lpfn = chooserEvent;
+    browse.lParam = reinterpret_cast<LPARAM>(&state);
+    const ItemList chosen(SHBrowseForFolderW(&browse));
+    if (!state.typed.empty()) {
+        if (PathIsRelativeW(state.typed.c_str()) && !state.selected.empty()) {
+            std::wstring folder = state.selected;
+            if (folder.back() != L'\\')
+                folder += L'\\';
+            return fromWide(folder + state.typed);
+        }
+        return fromWide(state.typed);
+    }
+    return fromWide(pathOf(chosen.items));
+}
+
+} // namespace velkor6::ui::win32
