@@ -3,10 +3,12 @@
 #include "ui/qt/convert.h"
 
 #include <QAction>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QToolButton>
 #include <cstdio>
 #include <cstdlib>
@@ -70,6 +72,15 @@ public:
             else
                 action->setVisible(false);
         }
+        // Qt greys the accept button out for a name that is no folder yet; a new one is allowed.
+        auto* buttons = findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
+        QPushButton* choose =
+            buttons != nullptr ? buttons->button(QDialogButtonBox::Open) : nullptr;
+        if (allowNewFolder_ && name_ != nullptr && choose != nullptr)
+            QObject::connect(name_, &QLineEdit::textChanged, choose, [this, choose] {
+                if (!name_->text().trimmed().isEmpty())
+                    choose->setEnabled(true);
+            });
         trace(QStringLiteral("folder chooser \"%1\" in \"%2\"%3")
                   .arg(windowTitle(), directory().absolutePath(),
                        allowNewFolder_ ? QStringLiteral(" new folders") : QString()));
