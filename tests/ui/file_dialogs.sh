@@ -111,6 +111,10 @@ finish "a typed name in the open dialog" "$root/docs/a.txt"
 grep -qF "filters \"Texts (*.TXT) (*.TXT)\" \"Logs (*.log)\"" "$err" ||
     fail "the open dialog's filters: $(grep velkor6-qt "$err")"
 
+start vkrFileDialog False "Load texts" "" "$root/docs" 512
+type_into "Load texts" "" '"a.txt" "b.log"' Return
+finish "several files picked at once" "$root/docs/a.txt|$root/docs/b.log"
+
 start vkrFileDialog True "Save report" "Texts|*.txt" "$root/docs" 2 "txt"
 type_into "Save report" save "report" Return
 finish "the save dialog adds the default extension" "$root/docs/report.txt"

@@ -81,6 +81,7 @@ std::wstring pathOf(PCIDLIST_ABSOLUTE items) {
 }
 
 struct ChooserState {
+    std::wstring title;
     std::wstring start;
     std::wstring selected; // the folder selected in the tree
     std::wstring typed;    // a name the chooser did not find, when new folders are allowed
@@ -90,6 +91,10 @@ int CALLBACK chooserEvent(HWND window, UINT message, LPARAM value, LPARAM data) 
     auto& state = *reinterpret_cast<ChooserState*>(data);
     switch (message) {
     case BFFM_INITIALIZED:
+        // The window carries the title as well, as on the other systems, so that it can be told
+        // apart from other choosers.
+        if (!state.title.empty())
+            SetWindowTextW(window, state.title.c_str());
         if (!state.start.empty())
             SendMessageW(window, BFFM_SETSELECTIONW, TRUE,
                          reinterpret_cast<LPARAM>(state.start.c_str()));
@@ -150,8 +155,8 @@ std::vector<std::u16string> runFileDialog(HWND owner, const FileDialogRequest& r
 
 std::u16string runFolderDialog(HWND owner, const FolderDialogRequest& request) {
     const OleScope ole;
-    ChooserState state{wide(request.startFolder), {}, {}};
-    const std::wstring title = wide(request.title);
+    ChooserState state{wide(request.title), wide(request.startFolder), {}, {}};
+    const std::wstring& title = state.title;
     wchar_t display[MAX_PATH] = {};
     BROWSEINFOW browse{};
     browse.hwndOwner = owner;
