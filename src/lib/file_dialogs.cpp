@@ -75,8 +75,9 @@ void addFileDialogMembers(Table<lib>& t) {
          u"bit is ignored, and the caller's current directory never changes. A name the rules "
          u"refuse is never returned: the dialog opens again. Never raises: a dialog that cannot "
          u"be shown returns \"\". Without a display the answer is read from VELKOR6_ANSWERS or "
-         u"the terminal: \"path:\" and the file's path (several separated by \"|\"), anything "
-         u"else cancels. Example: vkrFileDialog(False, \"Load\", \"Resource Library "
+         u"the terminal: \"path:\" and the file's path (several separated by \"|\"; a relative "
+         u"one is taken from the start folder), anything else cancels. Example: "
+         u"vkrFileDialog(False, \"Load\", \"Resource Library "
          u"(*.DLL)|*.DLL\", \"C:\\Res\", OFN_FILEMUSTEXIST Or OFN_HIDEREADONLY) returns "
          u"\"C:\\Res\\de.dll\"."});
     t.push_back(
@@ -89,7 +90,8 @@ void addFileDialogMembers(Table<lib>& t) {
          [](lib& l, Args& a) -> Variant { return l.vkrChoosePath(a.str(0), a.str(1), a.i32(2)); },
          u"Shows the folder chooser and returns the chosen folder's full path (no trailing "
          u"separator except at a root); \"\" when the user cancels (cancel is not an error).",
-         u"sTitle: the text shown above the folders (Windows) or the window title. "
+         u"sTitle: the window title (on Windows also the text above the folders); \"\" gives "
+         u"\"Browse for Folder\". "
          u"sStartFolder: the folder selected first; \"\" the current directory; a missing folder "
          u"gives its nearest existing parent. lFlags (BrowseInfoFlagConsts), default "
          u"BIF_RETURNONLYFSDIRS Or BIF_NEWDIALOGSTYLE (65): only file-system folders are ever "
@@ -98,14 +100,16 @@ void addFileDialogMembers(Table<lib>& t) {
          u"without BIF_NONEWFOLDERBUTTON the user may choose a folder that does not exist yet: a "
          u"name typed into the chooser's name field (on Windows the edit box is then always "
          u"shown, and the \"Make New Folder\" button of the shell, which bypasses this rule, is "
-         u"not), the \"Create New Folder\" button of the Qt chooser, or a headless answer. The "
+         u"not), the \"Create New Folder\" button of the Qt chooser (it proposes \"New Folder\" in "
+         u"the name field, to be typed over), or a headless answer. The "
          u"library makes that one folder (its parent must exist) and returns it; when that fails "
          u"it shows vkrErrorMsg with error 75, the description \"Path/File access error: \" & "
          u"the folder's full path and the source \"velkor6.vkrChoosePath\", then opens the "
          u"chooser again at the nearest existing folder. Without the new-folder flags a folder "
          u"that does not exist is refused and the chooser opens again. Every other bit is "
          u"ignored. Never raises. Without a display the answer is read from VELKOR6_ANSWERS or "
-         u"the terminal: \"path:\" and the folder's path, anything else cancels. Example: "
+         u"the terminal: \"path:\" and the folder's path (a relative one is taken from the start "
+         u"folder), anything else cancels. Example: "
          u"vkrChoosePath(\"Where to export?\", \"C:\\Export\") returns \"C:\\Export\\2024\"."});
 }
 
