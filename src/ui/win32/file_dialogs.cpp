@@ -2,6 +2,7 @@
 
 // clang-format off
 #include <windows.h>
+#include <commctrl.h>
 #include <commdlg.h>
 #include <ole2.h>
 #include <shlobj.h>
@@ -81,11 +82,39 @@ std::wstring pathOf(PCIDLIST_ABSOLUTE items) {
 }
 
 struct ChooserState {
+    bool focusEditBox = false;
     std::wstring title;
     std::wstring start;
     std::wstring selected; // the folder selected in the tree
     std::wstring typed;    // a name the chooser did not find, when new folders are allowed
+    std::wstring edited;   // the edit box's text when the chooser closed
 };
+
+std::wstring textOf(HWND window) {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(
+        GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+// Keeps the edit box's last text: not every chooser (Wine's) acts on a typed name itself.
+LRESULT CALLBACK editBoxEvent(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                              DWORD_PTR data) {
+    if (message == WM_DESTROY) {
+        reinterpret_cast<ChooserState*>(data)->edited = textOf(edit);
+        RemoveWindowSubclass(edit, editBoxEvent, id);
+    }
+    return DefSubclassProc(edit, message, wParam, lParam);
+}
+
+BOOL CALLBACK findEditBox(HWND child, LPARAM found) {
+    wchar_t name[16] = {};
+    GetClassNameW(child, name, 16);
+    if (lstrcmpiW(name, L"Edit") != 0)
+        return TRUE;
+    *reinterpret_cast<HWND*>(found) = child;
+    return FALSE;
+}
 
 int CALLBACK chooserEvent(HWND window, UINT message, LPARAM value, LPARAM data) {
     auto& state = *reinterpret_cast<ChooserState*>(data);
@@ -98,6 +127,15 @@ int CALLBACK chooserEvent(HWND window, UINT message, LPARAM value, LPARAM data) 
         if (!state.start.empty())
             SendMessageW(window, BFFM_SETSELECTIONW, TRUE,
                          reinterpret_cast<LPARAM>(state.start.c_str()));
+        if (HWND edit = nullptr;
+            EnumChildWindows(window, findEditBox, reinterpret_cast<LPARAM>(&edit)),
+            edit != nullptr) {
+            SetWindowSubclass(edit, editBoxEvent, 1, reinterpret_cast<DWORD_PTR>(&state));
+            // A new folder is named in the edit box, so typing starts there, over the selected
+            // name.
+            if (state.focusEditBox)
+                PostMessageW(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(edit), TRUE);
+        }
         break;
     case BFFM_SELCHANGED:
         state.selected = pathOf(reinterpret_cast<PCIDLIST_ABSOLUTE>(value));
@@ -155,7 +193,11 @@ std::vector<std::u16string> runFileDialog(HWND owner, const FileDialogRequest& r
 
 std::u16string runFolderDialog(HWND owner, const FolderDialogRequest& request) {
     const OleScope ole;
-    ChooserState state{wide(request.title), wide(request.startFolder), {}, {}};
+    ChooserState state{request.editBox || request.allowNewFolder,
+                       wide(request.title),
+                       wide(request.startFolder),
+                       {},
+                       {}};
     const std::wstring& title = state.title;
     wchar_t display[MAX_PATH] = {};
     BROWSEINFOW browse{};
@@ -172,16 +214,27 @@ std::u16string runFolderDialog(HWND owner, const FolderDialogRequest& request) {
     browse.lpfn = chooserEvent;
     browse.lParam = reinterpret_cast<LPARAM>(&state);
     const ItemList chosen(SHBrowseForFolderW(&browse));
-    if (!state.typed.empty()) {
-        if (PathIsRelativeW(state.typed.c_str()) && !state.selected.empty()) {
-            std::wstring folder = state.selected;
-            if (folder.back() != L'\\')
-                folder += L'\\';
-            return fromWide(folder + state.typed);
-        }
-        return fromWide(state.typed);
-    }
-    return fromWide(pathOf(chosen.items));
+    if (chosen.items == nullptr && state.typed.empty())
+        return {};
+    const std::wstring path = pathOf(chosen.items);
+    std::wstring typed = !state.typed.empty() ? state.typed : state.edited;
+    while (!typed.empty() && typed.back() == L' ')
+        typed.pop_back();
+    while (!typed.empty() && typed.front() == L' ')
+        typed.erase(0, 1);
+    // The edit box shows the selected folder's name until the user types another.
+    const std::wstring_view name = PathFindFileNameW(path.c_str());
+    const bool unchanged = typed.empty() || lstrcmpiW(typed.c_str(), display) == 0 ||
+                           lstrcmpiW(typed.c_str(), std::wstring(name).c_str()) == 0 ||
+                           lstrcmpiW(typed.c_str(), path.c_str()) == 0;
+    if (unchanged)
+        return fromWide(path);
+    if (!PathIsRelativeW(typed.c_str()))
+        return fromWide(typed);
+    std::wstring folder = !state.selected.empty() ? state.selected : path;
+    if (!folder.empty() && folder.back() != L'\\')
+        folder += L'\\';
+    return fromWide(folder + typed);
 }
 
 } // namespace velkor6::ui::win32
