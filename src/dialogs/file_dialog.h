@@ -2,6 +2,7 @@
 // and what becomes of the host's answer.
 #pragma once
 
+#include "velkor6/enums.h"
 #include "velkor6/platform/dialog_host.h"
 
 #include <cstdint>
@@ -20,7 +21,7 @@ namespace velkor6::dialogs {
 inline constexpr char16_t pathListSeparator = u'|';
 // The folder chooser's options when the caller gives none: file-system folders only, the
 // resizable chooser that lets the user make a new folder.
-inline constexpr std::int32_t defaultBrowseFlags = 0x41;
+inline constexpr std::int32_t defaultBrowseFlags = BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE;
 // The run-time error shown when a new folder cannot be made.
 inline constexpr std::int32_t pathFileAccessError = 75;
 
