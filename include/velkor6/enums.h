@@ -907,6 +907,8 @@ inline constexpr EnumMember buttonStyleConstsMembers[] = {
 
 } // namespace velkor6
 
+#include "velkor6/file_dialog_enums.h"
+
 // Restores the system's macros set aside at the top.
 #pragma pop_macro("BS_CENTER")
 #pragma pop_macro("BS_LEFT")

@@ -231,6 +231,17 @@ public:
     void vkrHideMessage();
     // Sets oSource's MousePointer to the hourglass (true) or the default pointer (false).
     void vkrShowWaitLet(const ObjectRef& oSource, bool value);
+    // --- File dialog and folder chooser ----------------------------------------------------
+    // The chosen file's full path, several joined by "|" (OFN_ALLOWMULTISELECT), "" when
+    // cancelled. sFilter holds "description|pattern" pairs; lFlags OpenFileNameConstants.
+    std::u16string vkrFileDialog(bool bSave, std::u16string_view sTitle = {},
+                                 std::u16string_view sFilter = {},
+                                 std::u16string_view sStartFolder = {}, std::int32_t lFlags = 0,
+                                 std::u16string_view sDefaultExt = {},
+                                 std::u16string_view sFileName = {}, std::int16_t iFilterIndex = 1);
+    // The chosen folder's full path, "" when cancelled; lFlags BrowseInfoFlagConsts.
+    std::u16string vkrChoosePath(std::u16string_view sTitle = {},
+                                 std::u16string_view sStartFolder = {}, std::int32_t lFlags = 65);
     // --- Window lookup, waiting and z-order ------------------------------------------------
     // Window handles are any program's windows: Win32 HWNDs on Windows, X window ids on X11.
     std::int32_t vkrFindWindow(std::int32_t lTopHwnd, std::u16string_view lpClassName,

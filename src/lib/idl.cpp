@@ -191,6 +191,8 @@ void writeIdl(std::ostream& out) {
         {"ListViewExStyleConsts", listViewExStyleConstsMembers},
         {"ListViewFindItemFlags", listViewFindItemFlagsMembers},
         {"ButtonStyleConsts", buttonStyleConstsMembers},
+        {"OpenFileNameConstants", openFileNameConstantsMembers},
+        {"BrowseInfoFlagConsts", browseInfoFlagConstsMembers},
     };
     for (const PublicEnum& e : enums)
         writeEnum(out, e);

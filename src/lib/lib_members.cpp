@@ -15,6 +15,7 @@ const Table<lib>& libMembers() {
         addResourceMembers(t);
         addTextFileMembers(t);
         addDialogMembers(t);
+        addFileDialogMembers(t);
         addBracketMembers(t);
         addValueCodeMembers(t);
         addWindowMembers(t);

@@ -19,6 +19,7 @@ void addFileMembers(Table<lib>& table);
 void addInitAppMembers(Table<lib>& table);
 void addResourceMembers(Table<lib>& table);
 void addDialogMembers(Table<lib>& table);
+void addFileDialogMembers(Table<lib>& table);
 void addBracketMembers(Table<lib>& table);
 void addValueCodeMembers(Table<lib>& table);
 void addWindowMembers(Table<lib>& table);

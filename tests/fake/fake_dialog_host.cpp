@@ -68,3 +68,25 @@ void FakeDialogHost::showStatus(const StatusWindow& window) {
 }
 
 } // namespace velkor6::fake
+
+namespace velkor6::fake {
+
+std::vector<std::u16string> FakeDialogHost::chooseFiles(const FileDialogRequest& request) {
+    fileRequests_.push_back(request);
+    if (files_.empty())
+        return {};
+    std::vector<std::u16string> paths = std::move(files_.front());
+    files_.pop_front();
+    return paths;
+}
+
+std::u16string FakeDialogHost::chooseFolder(const FolderDialogRequest& request) {
+    folderRequests_.push_back(request);
+    if (folders_.empty())
+        return {};
+    std::u16string path = std::move(folders_.front());
+    folders_.pop_front();
+    return path;
+}
+
+} // namespace velkor6::fake

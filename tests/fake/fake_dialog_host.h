@@ -47,6 +47,24 @@ private:
     bool statusVisible_ = false;
     int statusCreations_ = 0;
     int eventsServed_ = 0;
+
+    // --- File dialog and folder chooser -------------------------------------------------
+public:
+    // The next file dialogs pick these paths in turn; empty, or none left: cancelled.
+    void answerFiles(std::vector<std::u16string> paths) { files_.push_back(std::move(paths)); }
+    // The next folder choosers pick these folders in turn; "", or none left: cancelled.
+    void answerFolder(std::u16string path) { folders_.push_back(std::move(path)); }
+    const std::vector<FileDialogRequest>& fileRequests() const { return fileRequests_; }
+    const std::vector<FolderDialogRequest>& folderRequests() const { return folderRequests_; }
+
+    std::vector<std::u16string> chooseFiles(const FileDialogRequest& request) override;
+    std::u16string chooseFolder(const FolderDialogRequest& request) override;
+
+private:
+    std::deque<std::vector<std::u16string>> files_;
+    std::deque<std::u16string> folders_;
+    std::vector<FileDialogRequest> fileRequests_;
+    std::vector<FolderDialogRequest> folderRequests_;
 };
 
 } // namespace velkor6::fake

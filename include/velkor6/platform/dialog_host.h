@@ -28,6 +28,11 @@
 //   destroys it. serveEvents lets pending user-interface events run once and returns.
 // - measureText reports the size a label of that font needs for the text (auto-size), broken
 //   into lines at line breaks and, when wrapWidth is above 0, at word boundaries within it.
+// - chooseFiles shows the system's (or the toolkit's) file dialog as the request describes and
+//   returns the full paths the user picked, or nothing when the dialog was cancelled or could not
+//   be shown. chooseFolder does the same with the folder chooser; with allowNewFolder the user may
+//   name a folder that does not exist yet (the host returns that path and never creates it: the
+//   caller does), otherwise only existing folders are returned.
 #pragma once
 
 #include "velkor6/export.h"
@@ -152,6 +157,35 @@ struct StatusWindow {
     bool topMost = false;
 };
 
+// A file-dialog filter: "Text files" and "*.txt;*.log".
+struct FileFilter {
+    std::u16string description;
+    std::u16string pattern; // patterns separated by ";"
+    friend bool operator==(const FileFilter&, const FileFilter&) = default;
+};
+
+struct FileDialogRequest {
+    bool save = false;               // the save dialog, else the open dialog
+    std::u16string title;            // "": the host's own title for the kind
+    std::vector<FileFilter> filters; // none: every file is shown
+    std::int32_t filterIndex = 0;    // the filter shown first, index into filters
+    std::u16string startFolder;      // a full path
+    std::u16string fileName;         // proposed in the name field
+    std::u16string defaultExtension; // without the dot; added to a typed name that has none
+    bool fileMustExist = false;      // open: only existing files
+    bool pathMustExist = false;      // only names in existing folders
+    bool overwritePrompt = false;    // save: confirm replacing an existing file
+    bool multiSelect = false;        // open: several files
+    bool readOnlyBox = false;        // Win32: show the "open as read-only" check box
+};
+
+struct FolderDialogRequest {
+    std::u16string title;        // the text above the tree or the window title
+    std::u16string startFolder;  // a full path, selected when the chooser opens
+    bool editBox = false;        // a field to type the folder's name in
+    bool allowNewFolder = false; // the user may choose a folder that does not exist yet
+};
+
 class VELKOR6_API DialogHost {
 public:
     virtual ~DialogHost() = default;
@@ -165,6 +199,11 @@ public:
     virtual void hideStatus() = 0;
     virtual void closeStatus() = 0;
     virtual void serveEvents() = 0;
+
+    // The chosen files as full paths; empty when cancelled.
+    virtual std::vector<std::u16string> chooseFiles(const FileDialogRequest& request) = 0;
+    // The chosen folder as a full path; empty when cancelled.
+    virtual std::u16string chooseFolder(const FolderDialogRequest& request) = 0;
 };
 
 } // namespace velkor6

@@ -42,6 +42,12 @@ public:
         if (host_)
             host_->serveEvents();
     }
+    std::vector<std::u16string> chooseFiles(const FileDialogRequest& request) override {
+        return host().chooseFiles(request);
+    }
+    std::u16string chooseFolder(const FolderDialogRequest& request) override {
+        return host().chooseFolder(request);
+    }
 
 private:
     DialogHost& host() {

@@ -249,3 +249,64 @@ void HeadlessHost::showStatus(const StatusWindow& window) {
 }
 
 } // namespace velkor6::ui
+
+namespace velkor6::ui {
+
+std::string HeadlessHost::pathAnswer() {
+    std::string line;
+    if (!answers_.empty()) {
+        line = answers_.front();
+        answers_.pop_front();
+    } else if (interactive_) {
+        *out_ << "Type the path and press Enter (an empty line or Ctrl+D cancels): ";
+        out_->flush();
+        if (!std::getline(*in_, line))
+            return {};
+        return trimmedLine(line);
+    }
+    return line.rfind("path:", 0) == 0 ? line.substr(5) : std::string();
+}
+
+std::vector<std::u16string> HeadlessHost::chooseFiles(const FileDialogRequest& request) {
+    std::ostream& out = *out_;
+    out << "--- "
+        << (request.title.empty() ? std::string(request.save ? "Save As" : "Open")
+                                  : toUtf8(request.title))
+        << " ---\n";
+    out << (request.save          ? "Save a file"
+            : request.multiSelect ? "Open files"
+                                  : "Open a file")
+        << " in " << toUtf8(request.startFolder) << '\n';
+    for (std::size_t i = 0; i < request.filters.size(); ++i)
+        out << "  " << (static_cast<std::int32_t>(i) == request.filterIndex ? "* " : "  ")
+            << toUtf8(request.filters[i].description) << " (" << toUtf8(request.filters[i].pattern)
+            << ")\n";
+    if (!request.fileName.empty())
+        out << "[" << toUtf8(request.fileName) << "]\n";
+    const std::string answer = pathAnswer();
+    std::vector<std::u16string> paths;
+    std::size_t start = 0;
+    while (start <= answer.size() && !answer.empty()) {
+        const std::size_t end = request.multiSelect ? answer.find('|', start) : std::string::npos;
+        const std::string path =
+            answer.substr(start, end == std::string::npos ? std::string::npos : end - start);
+        if (!path.empty())
+            paths.push_back(fromUtf8(path));
+        if (end == std::string::npos)
+            break;
+        start = end + 1;
+    }
+    return paths;
+}
+
+std::u16string HeadlessHost::chooseFolder(const FolderDialogRequest& request) {
+    std::ostream& out = *out_;
+    out << "--- "
+        << (request.title.empty() ? std::string("Browse for Folder") : toUtf8(request.title))
+        << " ---\n";
+    out << "Choose a folder" << (request.allowNewFolder ? " (a new one is made)" : "") << " in "
+        << toUtf8(request.startFolder) << '\n';
+    return fromUtf8(pathAnswer());
+}
+
+} // namespace velkor6::ui

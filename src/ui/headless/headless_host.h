@@ -8,14 +8,16 @@
 #include <iosfwd>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace velkor6::ui {
 
 class HeadlessHost final : public DialogHost {
 public:
     // answers: one line per dialog, in the order the dialogs are shown: a result number such as
-    // 7, or "text:" and what the user types and confirms with OK. interactive: ask on `in` when
-    // the answers have run out.
+    // 7, "text:" and what the user types and confirms with OK, or, for the file dialog and the
+    // folder chooser, "path:" and the chosen path (several files separated by "|"). interactive:
+    // ask on `in` when the answers have run out.
     HeadlessHost(std::deque<std::string> answers, bool interactive, std::istream& in,
                  std::ostream& out);
     // The answers of VELKOR6_ANSWERS, read once; interactive when standard input and standard
@@ -29,11 +31,15 @@ public:
     void hideStatus() override {}
     void closeStatus() override { shownStatus_.clear(); }
     void serveEvents() override {}
+    std::vector<std::u16string> chooseFiles(const FileDialogRequest& request) override;
+    std::u16string chooseFolder(const FolderDialogRequest& request) override;
 
 private:
     void write(const DialogForm& form);
     DialogEvent scripted(const DialogForm& form, const std::string& answer) const;
     std::optional<DialogEvent> asked(const DialogForm& form);
+    // The paths a file dialog or folder chooser is answered with; empty when cancelled.
+    std::string pathAnswer();
 
     std::deque<std::string> answers_;
     bool interactive_;

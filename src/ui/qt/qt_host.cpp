@@ -1,6 +1,7 @@
 #include "ui/qt/qt_host.h"
 
 #include "ui/qt/convert.h"
+#include "ui/qt/file_dialog.h"
 #include "ui/qt/form_dialog.h"
 
 #include <QCoreApplication>
@@ -44,6 +45,14 @@ void QtDialogHost::closeStatus() {
 
 void QtDialogHost::serveEvents() {
     QCoreApplication::processEvents(QEventLoop::AllEvents);
+}
+
+std::vector<std::u16string> QtDialogHost::chooseFiles(const FileDialogRequest& request) {
+    return runFileDialog(request);
+}
+
+std::u16string QtDialogHost::chooseFolder(const FolderDialogRequest& request) {
+    return runFolderDialog(request);
 }
 
 } // namespace velkor6::qt

@@ -17,6 +17,8 @@ public:
     void hideStatus() override;
     void closeStatus() override;
     void serveEvents() override;
+    std::vector<std::u16string> chooseFiles(const FileDialogRequest& request) override;
+    std::u16string chooseFolder(const FolderDialogRequest& request) override;
 
 private:
     std::unique_ptr<StatusWidget> status_;

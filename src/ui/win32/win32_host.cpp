@@ -6,6 +6,7 @@
 // clang-format on
 
 #include "platform/win32/wide.h"
+#include "ui/win32/file_dialogs.h"
 #include "ui/win32/font_set.h"
 #include "ui/win32/message_font.h"
 #include "ui/win32/modal_form.h"
@@ -59,6 +60,13 @@ public:
             TranslateMessage(&message);
             DispatchMessageW(&message);
         }
+    }
+
+    std::vector<std::u16string> chooseFiles(const FileDialogRequest& request) override {
+        return runFileDialog(defaultOwner(), request);
+    }
+    std::u16string chooseFolder(const FolderDialogRequest& request) override {
+        return runFolderDialog(defaultOwner(), request);
     }
 
 private:

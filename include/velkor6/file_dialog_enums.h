@@ -1,0 +1,245 @@
+// The flag enumerations of the file dialog and the folder chooser, with the system's names and
+// values. Part of enums.h, which includes it; the system's macros of the same names are set aside
+// while it is read, as there.
+#pragma once
+
+#include "velkor6/enums.h"
+
+#include <cstdint>
+#include <string_view>
+#pragma push_macro("OFN_READONLY")
+#undef OFN_READONLY
+#pragma push_macro("OFN_OVERWRITEPROMPT")
+#undef OFN_OVERWRITEPROMPT
+#pragma push_macro("OFN_HIDEREADONLY")
+#undef OFN_HIDEREADONLY
+#pragma push_macro("OFN_NOCHANGEDIR")
+#undef OFN_NOCHANGEDIR
+#pragma push_macro("OFN_SHOWHELP")
+#undef OFN_SHOWHELP
+#pragma push_macro("OFN_ENABLEHOOK")
+#undef OFN_ENABLEHOOK
+#pragma push_macro("OFN_ENABLETEMPLATE")
+#undef OFN_ENABLETEMPLATE
+#pragma push_macro("OFN_ENABLETEMPLATEHANDLE")
+#undef OFN_ENABLETEMPLATEHANDLE
+#pragma push_macro("OFN_NOVALIDATE")
+#undef OFN_NOVALIDATE
+#pragma push_macro("OFN_ALLOWMULTISELECT")
+#undef OFN_ALLOWMULTISELECT
+#pragma push_macro("OFN_EXTENSIONDIFFERENT")
+#undef OFN_EXTENSIONDIFFERENT
+#pragma push_macro("OFN_PATHMUSTEXIST")
+#undef OFN_PATHMUSTEXIST
+#pragma push_macro("OFN_FILEMUSTEXIST")
+#undef OFN_FILEMUSTEXIST
+#pragma push_macro("OFN_CREATEPROMPT")
+#undef OFN_CREATEPROMPT
+#pragma push_macro("OFN_SHAREAWARE")
+#undef OFN_SHAREAWARE
+#pragma push_macro("OFN_NOREADONLYRETURN")
+#undef OFN_NOREADONLYRETURN
+#pragma push_macro("OFN_NOTESTFILECREATE")
+#undef OFN_NOTESTFILECREATE
+#pragma push_macro("OFN_NONETWORKBUTTON")
+#undef OFN_NONETWORKBUTTON
+#pragma push_macro("OFN_NOLONGNAMES")
+#undef OFN_NOLONGNAMES
+#pragma push_macro("OFN_EXPLORER")
+#undef OFN_EXPLORER
+#pragma push_macro("OFN_NODEREFERENCELINKS")
+#undef OFN_NODEREFERENCELINKS
+#pragma push_macro("OFN_LONGNAMES")
+#undef OFN_LONGNAMES
+#pragma push_macro("OFN_ENABLEINCLUDENOTIFY")
+#undef OFN_ENABLEINCLUDENOTIFY
+#pragma push_macro("OFN_ENABLESIZING")
+#undef OFN_ENABLESIZING
+#pragma push_macro("OFN_DONTADDTORECENT")
+#undef OFN_DONTADDTORECENT
+#pragma push_macro("OFN_FORCESHOWHIDDEN")
+#undef OFN_FORCESHOWHIDDEN
+#pragma push_macro("BIF_RETURNONLYFSDIRS")
+#undef BIF_RETURNONLYFSDIRS
+#pragma push_macro("BIF_DONTGOBELOWDOMAIN")
+#undef BIF_DONTGOBELOWDOMAIN
+#pragma push_macro("BIF_STATUSTEXT")
+#undef BIF_STATUSTEXT
+#pragma push_macro("BIF_RETURNFSANCESTORS")
+#undef BIF_RETURNFSANCESTORS
+#pragma push_macro("BIF_EDITBOX")
+#undef BIF_EDITBOX
+#pragma push_macro("BIF_VALIDATE")
+#undef BIF_VALIDATE
+#pragma push_macro("BIF_NEWDIALOGSTYLE")
+#undef BIF_NEWDIALOGSTYLE
+#pragma push_macro("BIF_USENEWUI")
+#undef BIF_USENEWUI
+#pragma push_macro("BIF_BROWSEINCLUDEURLS")
+#undef BIF_BROWSEINCLUDEURLS
+#pragma push_macro("BIF_UAHINT")
+#undef BIF_UAHINT
+#pragma push_macro("BIF_NONEWFOLDERBUTTON")
+#undef BIF_NONEWFOLDERBUTTON
+#pragma push_macro("BIF_NOTRANSLATETARGETS")
+#undef BIF_NOTRANSLATETARGETS
+#pragma push_macro("BIF_BROWSEFORCOMPUTER")
+#undef BIF_BROWSEFORCOMPUTER
+#pragma push_macro("BIF_BROWSEFORPRINTER")
+#undef BIF_BROWSEFORPRINTER
+#pragma push_macro("BIF_BROWSEINCLUDEFILES")
+#undef BIF_BROWSEINCLUDEFILES
+#pragma push_macro("BIF_SHAREABLE")
+#undef BIF_SHAREABLE
+#pragma push_macro("BIF_BROWSEFILEJUNCTIONS")
+#undef BIF_BROWSEFILEJUNCTIONS
+
+namespace velkor6 {
+
+// --- OpenFileNameConstants ----------------------------------------------------------------
+// The option bits of the system's open and save dialogs (vkrFileDialog's lFlags).
+enum OpenFileNameConstants : std::int32_t {
+    OFN_READONLY = 1,
+    OFN_OVERWRITEPROMPT = 2,
+    OFN_HIDEREADONLY = 4,
+    OFN_NOCHANGEDIR = 8,
+    OFN_SHOWHELP = 16,
+    OFN_ENABLEHOOK = 32,
+    OFN_ENABLETEMPLATE = 64,
+    OFN_ENABLETEMPLATEHANDLE = 128,
+    OFN_NOVALIDATE = 256,
+    OFN_ALLOWMULTISELECT = 512,
+    OFN_EXTENSIONDIFFERENT = 1024,
+    OFN_PATHMUSTEXIST = 2048,
+    OFN_FILEMUSTEXIST = 4096,
+    OFN_CREATEPROMPT = 8192,
+    OFN_SHAREAWARE = 16384,
+    OFN_NOREADONLYRETURN = 32768,
+    OFN_NOTESTFILECREATE = 65536,
+    OFN_NONETWORKBUTTON = 131072,
+    OFN_NOLONGNAMES = 262144,
+    OFN_EXPLORER = 524288,
+    OFN_NODEREFERENCELINKS = 1048576,
+    OFN_LONGNAMES = 2097152,
+    OFN_ENABLEINCLUDENOTIFY = 4194304,
+    OFN_ENABLESIZING = 8388608,
+    OFN_DONTADDTORECENT = 33554432,
+    OFN_FORCESHOWHIDDEN = 268435456,
+};
+
+inline constexpr EnumMember openFileNameConstantsMembers[] = {
+    {u"OFN_READONLY", OFN_READONLY},
+    {u"OFN_OVERWRITEPROMPT", OFN_OVERWRITEPROMPT},
+    {u"OFN_HIDEREADONLY", OFN_HIDEREADONLY},
+    {u"OFN_NOCHANGEDIR", OFN_NOCHANGEDIR},
+    {u"OFN_SHOWHELP", OFN_SHOWHELP},
+    {u"OFN_ENABLEHOOK", OFN_ENABLEHOOK},
+    {u"OFN_ENABLETEMPLATE", OFN_ENABLETEMPLATE},
+    {u"OFN_ENABLETEMPLATEHANDLE", OFN_ENABLETEMPLATEHANDLE},
+    {u"OFN_NOVALIDATE", OFN_NOVALIDATE},
+    {u"OFN_ALLOWMULTISELECT", OFN_ALLOWMULTISELECT},
+    {u"OFN_EXTENSIONDIFFERENT", OFN_EXTENSIONDIFFERENT},
+    {u"OFN_PATHMUSTEXIST", OFN_PATHMUSTEXIST},
+    {u"OFN_FILEMUSTEXIST", OFN_FILEMUSTEXIST},
+    {u"OFN_CREATEPROMPT", OFN_CREATEPROMPT},
+    {u"OFN_SHAREAWARE", OFN_SHAREAWARE},
+    {u"OFN_NOREADONLYRETURN", OFN_NOREADONLYRETURN},
+    {u"OFN_NOTESTFILECREATE", OFN_NOTESTFILECREATE},
+    {u"OFN_NONETWORKBUTTON", OFN_NONETWORKBUTTON},
+    {u"OFN_NOLONGNAMES", OFN_NOLONGNAMES},
+    {u"OFN_EXPLORER", OFN_EXPLORER},
+    {u"OFN_NODEREFERENCELINKS", OFN_NODEREFERENCELINKS},
+    {u"OFN_LONGNAMES", OFN_LONGNAMES},
+    {u"OFN_ENABLEINCLUDENOTIFY", OFN_ENABLEINCLUDENOTIFY},
+    {u"OFN_ENABLESIZING", OFN_ENABLESIZING},
+    {u"OFN_DONTADDTORECENT", OFN_DONTADDTORECENT},
+    {u"OFN_FORCESHOWHIDDEN", OFN_FORCESHOWHIDDEN},
+};
+
+// --- BrowseInfoFlagConsts -----------------------------------------------------------------
+// The option bits of the system's folder chooser (vkrChoosePath's lFlags).
+enum BrowseInfoFlagConsts : std::int32_t {
+    BIF_RETURNONLYFSDIRS = 1,
+    BIF_DONTGOBELOWDOMAIN = 2,
+    BIF_STATUSTEXT = 4,
+    BIF_RETURNFSANCESTORS = 8,
+    BIF_EDITBOX = 16,
+    BIF_VALIDATE = 32,
+    BIF_NEWDIALOGSTYLE = 64,
+    BIF_USENEWUI = 80,
+    BIF_BROWSEINCLUDEURLS = 128,
+    BIF_UAHINT = 256,
+    BIF_NONEWFOLDERBUTTON = 512,
+    BIF_NOTRANSLATETARGETS = 1024,
+    BIF_BROWSEFORCOMPUTER = 4096,
+    BIF_BROWSEFORPRINTER = 8192,
+    BIF_BROWSEINCLUDEFILES = 16384,
+    BIF_SHAREABLE = 32768,
+    BIF_BROWSEFILEJUNCTIONS = 65536,
+};
+
+inline constexpr EnumMember browseInfoFlagConstsMembers[] = {
+    {u"BIF_RETURNONLYFSDIRS", BIF_RETURNONLYFSDIRS},
+    {u"BIF_DONTGOBELOWDOMAIN", BIF_DONTGOBELOWDOMAIN},
+    {u"BIF_STATUSTEXT", BIF_STATUSTEXT},
+    {u"BIF_RETURNFSANCESTORS", BIF_RETURNFSANCESTORS},
+    {u"BIF_EDITBOX", BIF_EDITBOX},
+    {u"BIF_VALIDATE", BIF_VALIDATE},
+    {u"BIF_NEWDIALOGSTYLE", BIF_NEWDIALOGSTYLE},
+    {u"BIF_USENEWUI", BIF_USENEWUI},
+    {u"BIF_BROWSEINCLUDEURLS", BIF_BROWSEINCLUDEURLS},
+    {u"BIF_UAHINT", BIF_UAHINT},
+    {u"BIF_NONEWFOLDERBUTTON", BIF_NONEWFOLDERBUTTON},
+    {u"BIF_NOTRANSLATETARGETS", BIF_NOTRANSLATETARGETS},
+    {u"BIF_BROWSEFORCOMPUTER", BIF_BROWSEFORCOMPUTER},
+    {u"BIF_BROWSEFORPRINTER", BIF_BROWSEFORPRINTER},
+    {u"BIF_BROWSEINCLUDEFILES", BIF_BROWSEINCLUDEFILES},
+    {u"BIF_SHAREABLE", BIF_SHAREABLE},
+    {u"BIF_BROWSEFILEJUNCTIONS", BIF_BROWSEFILEJUNCTIONS},
+};
+
+} // namespace velkor6
+
+#pragma pop_macro("OFN_READONLY")
+#pragma pop_macro("OFN_OVERWRITEPROMPT")
+#pragma pop_macro("OFN_HIDEREADONLY")
+#pragma pop_macro("OFN_NOCHANGEDIR")
+#pragma pop_macro("OFN_SHOWHELP")
+#pragma pop_macro("OFN_ENABLEHOOK")
+#pragma pop_macro("OFN_ENABLETEMPLATE")
+#pragma pop_macro("OFN_ENABLETEMPLATEHANDLE")
+#pragma pop_macro("OFN_NOVALIDATE")
+#pragma pop_macro("OFN_ALLOWMULTISELECT")
+#pragma pop_macro("OFN_EXTENSIONDIFFERENT")
+#pragma pop_macro("OFN_PATHMUSTEXIST")
+#pragma pop_macro("OFN_FILEMUSTEXIST")
+#pragma pop_macro("OFN_CREATEPROMPT")
+#pragma pop_macro("OFN_SHAREAWARE")
+#pragma pop_macro("OFN_NOREADONLYRETURN")
+#pragma pop_macro("OFN_NOTESTFILECREATE")
+#pragma pop_macro("OFN_NONETWORKBUTTON")
+#pragma pop_macro("OFN_NOLONGNAMES")
+#pragma pop_macro("OFN_EXPLORER")
+#pragma pop_macro("OFN_NODEREFERENCELINKS")
+#pragma pop_macro("OFN_LONGNAMES")
+#pragma pop_macro("OFN_ENABLEINCLUDENOTIFY")
+#pragma pop_macro("OFN_ENABLESIZING")
+#pragma pop_macro("OFN_DONTADDTORECENT")
+#pragma pop_macro("OFN_FORCESHOWHIDDEN")
+#pragma pop_macro("BIF_RETURNONLYFSDIRS")
+#pragma pop_macro("BIF_DONTGOBELOWDOMAIN")
+#pragma pop_macro("BIF_STATUSTEXT")
+#pragma pop_macro("BIF_RETURNFSANCESTORS")
+#pragma pop_macro("BIF_EDITBOX")
+#pragma pop_macro("BIF_VALIDATE")
+#pragma pop_macro("BIF_NEWDIALOGSTYLE")
+#pragma pop_macro("BIF_USENEWUI")
+#pragma pop_macro("BIF_BROWSEINCLUDEURLS")
+#pragma pop_macro("BIF_UAHINT")
+#pragma pop_macro("BIF_NONEWFOLDERBUTTON")
+#pragma pop_macro("BIF_NOTRANSLATETARGETS")
+#pragma pop_macro("BIF_BROWSEFORCOMPUTER")
+#pragma pop_macro("BIF_BROWSEFORPRINTER")
+#pragma pop_macro("BIF_BROWSEINCLUDEFILES")
+#pragma pop_macro("BIF_SHAREABLE")
+#pragma pop_macro("BIF_BROWSEFILEJUNCTIONS")
