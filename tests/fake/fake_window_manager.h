@@ -30,6 +30,12 @@ public:
         };
         std::optional<Shape> shape{};
         bool classShadow = false;
+        double opacity = 1;
+        bool noOpacity = false; // a window system without opacity for this window
+    };
+    struct OpacityChange {
+        WindowHandle window = 0;
+        double opacity = 0;
     };
     struct Placement {
         WindowHandle window = 0;
@@ -55,6 +61,8 @@ public:
     void setFrameMetrics(FrameMetrics m) { frame_ = m; }
     // Each confinePointer call: the area, or nullopt for a release.
     const std::vector<std::optional<WindowRect>>& confinements() const { return confinements_; }
+    // Each setOpacity call that changed a window, in order.
+    const std::vector<OpacityChange>& opacityChanges() const { return opacityChanges_; }
 
     // --- WindowManager ------------------------------------------------------------------
     std::uint32_t style(WindowHandle window) override;
@@ -83,6 +91,8 @@ public:
     std::optional<WindowRect> clientRect(WindowHandle window) override;
     bool confinePointer(std::optional<WindowRect> area) override;
     FrameMetrics frameMetrics(WindowHandle) override { return frame_; }
+    bool setOpacity(WindowHandle window, double opacity) override;
+    std::optional<double> opacity(WindowHandle window) override;
 
 private:
     struct Monitor {
@@ -100,6 +110,7 @@ private:
     WindowHandle foreground_ = 0;
     FrameMetrics frame_{4, 3, 18};
     std::vector<std::optional<WindowRect>> confinements_;
+    std::vector<OpacityChange> opacityChanges_;
     std::vector<Monitor> monitors_;
     std::vector<Placement> placements_;
     std::int32_t screenWidth_ = 1920;

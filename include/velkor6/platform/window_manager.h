@@ -138,6 +138,16 @@ public:
     // The frame sizes. Where every window may have its own frame (X11, the window manager
     // draws it), those of the given window, or of the active window for 0.
     virtual FrameMetrics frameMetrics(WindowHandle window) = 0;
+
+    // --- Opacity -------------------------------------------------------------------------
+    // Sets how opaque a top-level window is drawn, from 0 (invisible, yet still there and
+    // taking input where the system allows) to 1 (opaque, as every window starts); values
+    // outside are clamped. False for a handle that is no window or where the window system
+    // has no opacity.
+    virtual bool setOpacity(WindowHandle, double) { return false; }
+    // The opacity last set (1 for a window whose opacity was never changed); nullopt for a
+    // handle that is no window or where the window system has no opacity.
+    virtual std::optional<double> opacity(WindowHandle) { return std::nullopt; }
 };
 
 } // namespace velkor6

@@ -164,6 +164,38 @@ public:
         return {GetSystemMetrics(SM_CYFRAME), GetSystemMetrics(SM_CYDLGFRAME),
                 GetSystemMetrics(SM_CYSIZE)};
     }
+
+    // A layered window with a constant alpha; the window stays layered at full opacity too, so
+    // that a colour key the program set itself is kept.
+    bool setOpacity(WindowHandle window, double opacity) override {
+        const HWND w = windowOf(window);
+        if (!IsWindow(w))
+            return false;
+        const LONG_PTR ex = GetWindowLongPtrW(w, GWL_EXSTYLE);
+        if ((ex & WS_EX_LAYERED) == 0)
+            SetWindowLongPtrW(w, GWL_EXSTYLE, ex | WS_EX_LAYERED);
+        COLORREF key = 0;
+        BYTE alpha = 255;
+        DWORD flags = 0;
+        GetLayeredWindowAttributes(w, &key, &alpha, &flags);
+        const double clamped = opacity < 0 ? 0 : (opacity > 1 ? 1 : opacity);
+        alpha = static_cast<BYTE>(clamped * 255 + 0.5);
+        return SetLayeredWindowAttributes(w, key, alpha, (flags & LWA_COLORKEY) | LWA_ALPHA);
+    }
+
+    std::optional<double> opacity(WindowHandle window) override {
+        const HWND w = windowOf(window);
+        if (!IsWindow(w))
+            return std::nullopt;
+        if ((GetWindowLongPtrW(w, GWL_EXSTYLE) & WS_EX_LAYERED) == 0)
+            return 1.0;
+        COLORREF key = 0;
+        BYTE alpha = 255;
+        DWORD flags = 0;
+        if (!GetLayeredWindowAttributes(w, &key, &alpha, &flags) || (flags & LWA_ALPHA) == 0)
+            return 1.0;
+        return alpha / 255.0;
+    }
 };
 
 } // namespace
