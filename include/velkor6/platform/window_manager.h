@@ -5,6 +5,7 @@
 
 #include "velkor6/export.h"
 #include "velkor6/platform/control_window.h"
+#include "velkor6/platform/rgb_image.h"
 
 #include <cstdint>
 #include <memory>
@@ -148,6 +149,20 @@ public:
     // The opacity last set (1 for a window whose opacity was never changed); nullopt for a
     // handle that is no window or where the window system has no opacity.
     virtual std::optional<double> opacity(WindowHandle) { return std::nullopt; }
+
+    // --- Bitmaps and device contexts (handles as the client holds them) -------------------
+    // The pixels of a bitmap handle (a picture's Handle); nullopt for a handle that is none or
+    // where the window system has no such handles.
+    virtual std::optional<RgbImage> bitmapPixels(std::int64_t) { return std::nullopt; }
+    // The pixels of a device context inside the area (clipped to what the context holds);
+    // nullopt when it has none there.
+    virtual std::optional<RgbImage> deviceContextPixels(std::int64_t, const WindowRect&) {
+        return std::nullopt;
+    }
+    // Draws the pixels on a device context with their top-left corner at x, y.
+    virtual bool drawPixels(std::int64_t, std::int32_t, std::int32_t, const RgbImage&) {
+        return false;
+    }
 };
 
 } // namespace velkor6
