@@ -70,7 +70,7 @@ void addPictureMembers(Table<lib>& t) {
         {114,
          u"vkrGetSemiTransparentPicture",
          CallKind::Method,
-         {required(u"vPicture", T::Variant), optional(u"iTransparency", T::Integer, 50),
+         {required(u"vPicture", T::Variant), optional(u"iTransparency", T::Integer, std::int16_t{50}),
           optional(u"lBackColor", T::Long, 16777215), optional(u"lLeft", T::Long, 0),
           optional(u"lTop", T::Long, 0), optional(u"lWidth", T::Long, -1),
           optional(u"lHeight", T::Long, -1)},
@@ -108,7 +108,7 @@ void addPictureMembers(Table<lib>& t) {
          CallKind::Method,
          {required(u"vTarget", T::Variant), required(u"vPicture", T::Variant),
           optional(u"x", T::Long, 0), optional(u"y", T::Long, 0),
-          optional(u"iTransparency", T::Integer, 50)},
+          optional(u"iTransparency", T::Integer, std::int16_t{50})},
          T::Boolean,
          [](lib& l, Args& a) -> Variant {
              return Variant(

@@ -85,7 +85,7 @@ Check "glbDrawSemiTransparentPicture into a file", r, True
 Set stream = fso.OpenTextFile(path, 1, False, 0)
 r = stream.ReadAll
 stream.Close
-Check "the file keeps its size", Len(r), 70
+Check "the file keeps its size", Len(r), CLng(70)
 Check "the blended pixel", Asc(Mid(r, 55, 1)), 75
 Check "the row padding", Asc(Mid(r, 61, 1)), 0
 r = Empty : r = o.glbDrawSemiTransparentPicture(path, pic, 2, 2)
