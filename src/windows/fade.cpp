@@ -1,5 +1,6 @@
 #include "windows/fade.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 
@@ -8,7 +9,10 @@ namespace velkor6::windows {
 std::vector<FadeStep> fadeSchedule(double from, double to, std::int32_t milliseconds) {
     if (milliseconds <= 0)
         return {{0, to}};
-    const std::int32_t n = (milliseconds + fadeStepMilliseconds - 1) / fadeStepMilliseconds;
+    const std::int32_t n = std::min<std::int32_t>(
+        maxFadeSteps,
+        static_cast<std::int32_t>((std::int64_t{milliseconds} + fadeStepMilliseconds - 1) /
+                                  fadeStepMilliseconds));
     std::vector<FadeStep> steps;
     steps.reserve(static_cast<std::size_t>(n));
     std::int64_t reached = 0;

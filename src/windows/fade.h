@@ -10,8 +10,10 @@
 
 namespace velkor6::windows {
 
-// A fade takes one step per this many milliseconds (about 50 frames a second).
+// A fade takes one step per this many milliseconds (about 50 frames a second), and at most
+// maxFadeSteps steps: longer fades take longer steps.
 inline constexpr std::int32_t fadeStepMilliseconds = 20;
+inline constexpr std::int32_t maxFadeSteps = 1000;
 
 struct FadeStep {
     std::int32_t pauseMilliseconds = 0; // waited before the opacity is set
@@ -19,8 +21,8 @@ struct FadeStep {
 };
 
 // The steps from one opacity to another over the duration: ceil(duration / 20) steps (at least
-// one), the k-th reached at round(k * duration / n) ms, at from + (to - from) * k / n; the last
-// step lands on `to` exactly. A duration of 0 or less is a single step without a pause.
+// one, at most 1000), the k-th reached at round(k * duration / n) ms, at from + (to - from) * k /
+// n; the last step lands on `to` exactly. A duration of 0 or less is a single step without a pause.
 std::vector<FadeStep> fadeSchedule(double from, double to, std::int32_t milliseconds);
 
 // Fades the window from its present opacity to `to` (0 transparent ... 1 opaque), serving the

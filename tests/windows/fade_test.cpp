@@ -30,6 +30,10 @@ TEST(Fade, ScheduleSpreadsTheDurationAndEndsExactly) {
     // A partial last step, and no duration at all.
     EXPECT_EQ(windows::fadeSchedule(0.25, 1.0, 41).size(), 3u);
     EXPECT_EQ(windows::fadeSchedule(0.3, 1.0, 41).back().opacity, 1.0);
+    // A very long fade takes longer steps, not more of them.
+    const auto longest = windows::fadeSchedule(0.0, 1.0, 2147483647);
+    ASSERT_EQ(longest.size(), 1000u);
+    EXPECT_EQ(longest[0].pauseMilliseconds, 2147484);
     const auto at_once = windows::fadeSchedule(1.0, 0.0, 0);
     ASSERT_EQ(at_once.size(), 1u);
     EXPECT_EQ(at_once[0].pauseMilliseconds, 0);
