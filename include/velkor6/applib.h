@@ -93,6 +93,14 @@ public:
     // language, as text; "" when there is none.
     std::u16string loadRes(std::int32_t lResID, std::u16string_view sResType);
 
+    // --- Form captions and the language chooser -------------------------------------------
+    // Captions the form and its controls from the captions document (XML text or a file path)
+    // in the context's language; returns how many were set.
+    std::int32_t loadFormCaption(const ObjectRef& oForm, std::u16string_view sCaptions,
+                                 std::u16string_view sFormName = {});
+    // The language the user chose (stored as the context's language); 0 when cancelled.
+    std::int16_t chooseLanguage();
+
     // --- Command line --------------------------------------------------------------------
     // Reads vCommandLine (the arguments alone, as VB's Command$ gives them) or, when it is
     // missing, the process's own command line without the program's name, and keeps its

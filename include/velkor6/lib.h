@@ -344,6 +344,16 @@ public:
                            std::int16_t iDiff = 90);
     void vkrCheckMouseDown(const ObjectRef& oControl, const ObjectRef& oPicBox, float x, float y,
                            std::int16_t iDiff = 90);
+    // --- Translucent pictures --------------------------------------------------------------
+    // vPicture: a picture object or the path of a .BMP file; the result is a picture object.
+    ObjectRef vkrGetSemiTransparentPicture(const Variant& vPicture, std::int16_t iTransparency = 50,
+                                           std::int32_t lBackColor = 16777215,
+                                           std::int32_t lLeft = 0, std::int32_t lTop = 0,
+                                           std::int32_t lWidth = -1, std::int32_t lHeight = -1);
+    // vTarget: a device context (or an object with hDC), a picture object or a .BMP file path.
+    bool glbDrawSemiTransparentPicture(const Variant& vTarget, const Variant& vPicture,
+                                       std::int32_t x = 0, std::int32_t y = 0,
+                                       std::int16_t iTransparency = 50);
 
 private:
     std::shared_ptr<Module> module_;

@@ -4,6 +4,8 @@
 #include "com/foreign_object.h"
 #include "com/object_dispatch.h"
 #include "com/server_classes.h"
+#include "com/std_picture.h"
+#include "windows/picture_object.h"
 
 namespace velkor6::com {
 
@@ -21,6 +23,11 @@ IDispatch* dispatchFor(const ObjectRef& object) {
         return nullptr;
     if (const auto* foreign = dynamic_cast<const ForeignObject*>(object.get()))
         return ComPtr<IDispatch>::share(foreign->dispatch()).detach();
+    // The caller's forms and controls take a picture only as a StdPicture.
+    if (const auto* picture = dynamic_cast<const windows::PictureObject*>(object.get())) {
+        if (IDispatch* d = createStdPicture(picture->image()))
+            return d;
+    }
     for (const ClassEntry& c : serverClasses()) {
         if (IDispatch* d = c.wrap(object))
             return d;

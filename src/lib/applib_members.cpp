@@ -13,6 +13,7 @@ const Table<applib>& applibMembers() {
         addPathMembers(t);
         addLanguageMembers(t);
         addCommandLineMembers(t);
+        addCaptionMembers(t);
         return t;
     }();
     return table;

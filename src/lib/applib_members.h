@@ -15,6 +15,7 @@ void addLogMembers(Table<applib>& table);
 void addPathMembers(Table<applib>& table);
 void addLanguageMembers(Table<applib>& table);
 void addCommandLineMembers(Table<applib>& table);
+void addCaptionMembers(Table<applib>& table);
 
 // An applib as a value whose members are called through applibMembers().
 ObjectRef applibObject(std::shared_ptr<applib> context);

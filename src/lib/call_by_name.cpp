@@ -1,11 +1,14 @@
 // Call by name and compression: the `lib` members and their rows in the member table.
 #include "core/collection.h"
+#include "core/convert.h"
 #include "core/text.h"
 #include "lib/lib_members.h"
 #include "lzw/global_var.h"
 #include "velkor6/vb_error.h"
+#include "windows/fade.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace velkor6 {
 namespace {
@@ -35,6 +38,51 @@ std::vector<std::u16string> fontFamilies(Module& m) {
     return names;
 }
 
+constexpr std::int32_t defaultFadeMilliseconds = 500;
+
+// The opacity a fade name leads to: FadeIn to opaque, FadeOut and FadeInit to transparent.
+std::optional<double> fadeTarget(std::u16string_view name) {
+    if (textEqual(name, u"FadeIn", Compare::Text))
+        return 1.0;
+    if (textEqual(name, u"FadeOut", Compare::Text) || textEqual(name, u"FadeInit", Compare::Text))
+        return 0.0;
+    return std::nullopt;
+}
+
+struct FadeArguments {
+    WindowHandle window = 0;
+    std::int32_t milliseconds = defaultFadeMilliseconds;
+};
+
+// vParam is the window handle, or an array of the handle and the duration in milliseconds.
+FadeArguments fadeArguments(const Variant& vParam, const Locale& locale) {
+    if (vParam.isMissing())
+        throw VbError(vberr::argumentNotOptional);
+    FadeArguments a;
+    if (!vParam.isArray()) {
+        a.window = toLong(vParam, locale);
+        return a;
+    }
+    const VariantArray& items = vParam.array();
+    if (items.bounds.size() != 1 || items.items.empty() || items.items.size() > 2)
+        throw VbError(vberr::invalidCall);
+    a.window = toLong(items.items[0], locale);
+    if (items.items.size() == 2)
+        a.milliseconds = std::max(0, toLong(items.items[1], locale));
+    return a;
+}
+
+bool fadeWindow(Module& m, std::u16string_view name, double target, const Variant& vParam,
+                const Locale& locale) {
+    FadeArguments a = fadeArguments(vParam, locale);
+    if (textEqual(name, u"FadeInit", Compare::Text))
+        a.milliseconds = 0;
+    Platform& p = m.platform();
+    if (!p.windowManager || !p.clock || !p.ui)
+        return false;
+    return windows::fade(*p.clock, *p.ui, *p.windowManager, a.window, target, a.milliseconds);
+}
+
 Variant stringArray(std::vector<std::u16string> items) {
     VariantArray a;
     a.element = VarType::String;
@@ -49,6 +97,8 @@ Variant stringArray(std::vector<std::u16string> items) {
 Variant lib::vkrGlobalVar(std::u16string_view sName, const Variant& vParam) {
     if (isFontList(sName))
         return stringArray(fontFamilies(module()));
+    if (const std::optional<double> target = fadeTarget(sName))
+        return Variant(fadeWindow(module(), sName, *target, vParam, locale()));
     return lzw::callGlobalVar(sName, vParam, locale());
 }
 
@@ -82,9 +132,10 @@ void addCallByNameMembers(Table<lib>& t) {
          {required(u"sName", T::String), optional(u"vParam", T::Variant, Variant::missing())},
          T::Variant,
          [](lib& l, Args& a) -> Variant { return l.vkrGlobalVar(a.str(0), a[1]); },
-         u"Calls the library function sName with the text vParam: \"Deflate\" compresses it, "
+         u"Calls the library function sName with vParam: \"Deflate\" compresses a text, "
          u"\"Inflate\" and \"InflateStrict\" decompress it; \"GetFontList\" gives the "
-         u"installed font families. The name may be in any letter case.",
+         u"installed font families; \"FadeOut\", \"FadeIn\" and \"FadeInit\" fade a "
+         u"window. The name may be in any letter case.",
          u"Compressed texts hold one character per byte (its ANSI code): 9-bit LZW codes, a "
          u"dictionary of 512 entries that starts over with a clear code whenever it is full, and "
          u"an end code. Characters without an ANSI code are compressed as \"?\".\n\n"
@@ -112,7 +163,30 @@ void addCallByNameMembers(Table<lib>& t) {
          u"variants) are left out. On Windows the families EnumFontFamiliesExW lists for every "
          u"character set on the screen; on Linux the first family name of each font fontconfig "
          u"knows (an empty list when fontconfig is not installed).\n\n"
-         u"A name other than these four raises error 438 with the source "
+         u"\"FadeOut\", \"FadeIn\" and \"FadeInit\" change how opaque a top-level window "
+         u"is drawn. vParam is the window handle (hWnd), or an array of the handle and the "
+         u"duration in milliseconds (default 500; a negative duration counts as 0). "
+         u"\"FadeOut\" goes from the window's present opacity to transparent, \"FadeIn\" to "
+         u"opaque, and \"FadeInit\" makes it transparent at once (the duration is ignored), so "
+         u"that a form made transparent before it is shown appears without a flash and then "
+         u"fades in. A fade takes one step per 20 ms, ceil(duration / 20) steps in all (at most "
+         u"1000: longer fades take longer steps), with "
+         u"the opacity going evenly from the start to the end value, which the last step "
+         u"reaches exactly; before every pause the program's pending events are served (as "
+         u"DoEvents), so its forms stay responsive. A faded-out window stays loaded, shown and "
+         u"clickable where the system allows: hide or unload it afterwards. The result is True "
+         u"when the opacity was set, False when the handle is no window or the window system "
+         u"cannot change it (then nothing waits). On Windows the window becomes a layered "
+         u"window (WS_EX_LAYERED) with a constant alpha of round(opacity x 255) "
+         u"(SetLayeredWindowAttributes with LWA_ALPHA); it stays layered after \"FadeIn\". On "
+         u"Linux the property _NET_WM_WINDOW_OPACITY (CARDINAL, round(opacity x 4294967295)) is "
+         u"set on the window and on the window manager's frame around it, and removed at full "
+         u"opacity; a compositing window manager draws it, without one the window looks "
+         u"unchanged. A missing vParam raises error 449, an array of other than one or two "
+         u"elements error 5, a handle or duration that is no number error 13. Example: "
+         u"vkrGlobalVar \"FadeInit\", Me.hWnd: Me.Show: vkrGlobalVar \"FadeIn\", "
+         u"Array(Me.hWnd, 300).\n\n"
+         u"A name other than these raises error 438 with the source "
          u"\"velkor6.vkrGlobalVar\"."});
     t.push_back(
         {110,

@@ -21,6 +21,7 @@ const Table<lib>& libMembers() {
         addWindowMembers(t);
         addListViewMembers(t);
         addControlMembers(t);
+        addPictureMembers(t);
         return t;
     }();
     return table;

@@ -25,5 +25,6 @@ void addValueCodeMembers(Table<lib>& table);
 void addWindowMembers(Table<lib>& table);
 void addListViewMembers(Table<lib>& table);
 void addControlMembers(Table<lib>& table);
+void addPictureMembers(Table<lib>& table);
 
 } // namespace velkor6::dispatch

@@ -104,6 +104,22 @@ std::optional<WindowRect> FakeWindowManager::clientRect(WindowHandle window) {
     return w->client.value_or(w->rect);
 }
 
+bool FakeWindowManager::setOpacity(WindowHandle window, double opacity) {
+    Window* w = find(window);
+    if (w == nullptr || w->noOpacity)
+        return false;
+    w->opacity = std::clamp(opacity, 0.0, 1.0);
+    opacityChanges_.push_back({window, w->opacity});
+    return true;
+}
+
+std::optional<double> FakeWindowManager::opacity(WindowHandle window) {
+    const Window* w = find(window);
+    if (w == nullptr || w->noOpacity)
+        return std::nullopt;
+    return w->opacity;
+}
+
 bool FakeWindowManager::confinePointer(std::optional<WindowRect> area) {
     confinements_.push_back(area);
     return true;

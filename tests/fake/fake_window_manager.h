@@ -30,6 +30,12 @@ public:
         };
         std::optional<Shape> shape{};
         bool classShadow = false;
+        double opacity = 1;
+        bool noOpacity = false; // a window system without opacity for this window
+    };
+    struct OpacityChange {
+        WindowHandle window = 0;
+        double opacity = 0;
     };
     struct Placement {
         WindowHandle window = 0;
@@ -55,6 +61,8 @@ public:
     void setFrameMetrics(FrameMetrics m) { frame_ = m; }
     // Each confinePointer call: the area, or nullopt for a release.
     const std::vector<std::optional<WindowRect>>& confinements() const { return confinements_; }
+    // Each setOpacity call that changed a window, in order.
+    const std::vector<OpacityChange>& opacityChanges() const { return opacityChanges_; }
 
     // --- WindowManager ------------------------------------------------------------------
     std::uint32_t style(WindowHandle window) override;
@@ -86,6 +94,8 @@ public:
     std::shared_ptr<ControlWindow> controlWindow(WindowHandle handle) override;
     // The control window (a list view, text box or button) the handle stands for.
     void addControlWindow(WindowHandle handle, std::shared_ptr<ControlWindow> window);
+    bool setOpacity(WindowHandle window, double opacity) override;
+    std::optional<double> opacity(WindowHandle window) override;
 
 private:
     struct Monitor {
@@ -104,6 +114,7 @@ private:
     WindowHandle foreground_ = 0;
     FrameMetrics frame_{4, 3, 18};
     std::vector<std::optional<WindowRect>> confinements_;
+    std::vector<OpacityChange> opacityChanges_;
     std::vector<Monitor> monitors_;
     std::vector<Placement> placements_;
     std::int32_t screenWidth_ = 1920;

@@ -187,6 +187,22 @@ void checkDefaults(const Table<Target>& table, const std::string& header, const 
     }
 }
 
+// An omitted argument takes the default as it stands, so it must be of the declared type: the
+// bodies read arguments with exact accessors.
+template <class Target>
+void checkDefaultTypes(const Table<Target>& table) {
+    for (const auto& m : table)
+        for (const Param& p : m.params)
+            if (p.optional && p.type != VarType::Variant && !isArrayType(p.type) &&
+                !p.defaultValue.isMissing() && p.type != VarType::Object)
+                EXPECT_EQ(p.defaultValue.type(), p.type) << toUtf8(m.name) << " " << toUtf8(p.name);
+}
+
+TEST(MemberTables, DefaultsHaveTheDeclaredType) {
+    checkDefaultTypes(libMembers());
+    checkDefaultTypes(applibMembers());
+}
+
 TEST(MemberTables, RowDefaultsMatchThePublicHeaders) {
     checkDefaults(libMembers(), "lib.h", "lib");
     checkDefaults(applibMembers(), "applib.h", "applib");

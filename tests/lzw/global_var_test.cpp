@@ -80,7 +80,7 @@ TEST_F(GlobalVar, PackedTextIsWindows1252OneCharacterPerByte) {
 }
 
 TEST_F(GlobalVar, OtherNamesAndMissingText) {
-    for (const char16_t* name : {u"Compress", u"", u"Deflate ", u"FadeIn"}) {
+    for (const char16_t* name : {u"Compress", u"", u"Deflate ", u"FadeAway"}) {
         const VbError e = error({Variant(name), Variant(u"x")});
         EXPECT_EQ(e.number(), vberr::noSuchMember) << toUtf8(name);
         EXPECT_EQ(e.source(), u"velkor6.vkrGlobalVar");

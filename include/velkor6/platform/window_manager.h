@@ -5,6 +5,7 @@
 
 #include "velkor6/export.h"
 #include "velkor6/platform/control_window.h"
+#include "velkor6/platform/rgb_image.h"
 
 #include <cstdint>
 #include <memory>
@@ -138,6 +139,30 @@ public:
     // The frame sizes. Where every window may have its own frame (X11, the window manager
     // draws it), those of the given window, or of the active window for 0.
     virtual FrameMetrics frameMetrics(WindowHandle window) = 0;
+
+    // --- Opacity -------------------------------------------------------------------------
+    // Sets how opaque a top-level window is drawn, from 0 (invisible, yet still there and
+    // taking input where the system allows) to 1 (opaque, as every window starts); values
+    // outside are clamped. False for a handle that is no window or where the window system
+    // has no opacity.
+    virtual bool setOpacity(WindowHandle, double) { return false; }
+    // The opacity last set (1 for a window whose opacity was never changed); nullopt for a
+    // handle that is no window or where the window system has no opacity.
+    virtual std::optional<double> opacity(WindowHandle) { return std::nullopt; }
+
+    // --- Bitmaps and device contexts (handles as the client holds them) -------------------
+    // The pixels of a bitmap handle (a picture's Handle); nullopt for a handle that is none or
+    // where the window system has no such handles.
+    virtual std::optional<RgbImage> bitmapPixels(std::int64_t) { return std::nullopt; }
+    // The pixels of a device context inside the area (clipped to what the context holds);
+    // nullopt when it has none there.
+    virtual std::optional<RgbImage> deviceContextPixels(std::int64_t, const WindowRect&) {
+        return std::nullopt;
+    }
+    // Draws the pixels on a device context with their top-left corner at x, y.
+    virtual bool drawPixels(std::int64_t, std::int32_t, std::int32_t, const RgbImage&) {
+        return false;
+    }
 };
 
 } // namespace velkor6

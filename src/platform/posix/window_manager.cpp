@@ -431,7 +431,64 @@ public:
         return m;
     }
 
+    // _NET_WM_WINDOW_OPACITY on the window and, under a window manager, on the frame it sits in:
+    // compositors read it from the top-level window. Without a compositor nothing changes on the
+    // screen, but the value is kept. Full opacity removes the property, as a window without it
+    // is opaque.
+    bool setOpacity(WindowHandle window, double opacity) override {
+        Display* d = x_->display();
+        const Window w = xWindow(window);
+        if (d == nullptr || w == None)
+            return false;
+        XErrorTrap trap(d, XErrorTrap::Sync::yes);
+        XWindowAttributes attributes;
+        if (XGetWindowAttributes(d, w, &attributes) == 0)
+            return false;
+        const Atom property = x_->atom("_NET_WM_WINDOW_OPACITY");
+        const double clamped = std::clamp(opacity, 0.0, 1.0);
+        const auto value = static_cast<long>(std::llround(clamped * 4294967295.0));
+        std::vector<Window> targets{w};
+        if (const Window top = topLevel(d, w); top != None && top != w)
+            targets.push_back(top);
+        for (const Window t : targets) {
+            if (clamped >= 1.0)
+                XDeleteProperty(d, t, property);
+            else
+                XChangeProperty(d, t, property, XA_CARDINAL, 32, PropModeReplace,
+                                reinterpret_cast<const unsigned char*>(&value), 1);
+        }
+        return true;
+    }
+
+    std::optional<double> opacity(WindowHandle window) override {
+        Display* d = x_->display();
+        const Window w = xWindow(window);
+        if (d == nullptr || w == None)
+            return std::nullopt;
+        XErrorTrap trap(d);
+        XWindowAttributes attributes;
+        if (XGetWindowAttributes(d, w, &attributes) == 0)
+            return std::nullopt;
+        const std::vector<long> v = cardinals(d, w, x_->atom("_NET_WM_WINDOW_OPACITY"), 1);
+        if (v.empty())
+            return 1.0;
+        return static_cast<double>(static_cast<std::uint32_t>(v[0])) / 4294967295.0;
+    }
+
 private:
+    // The child of the root that holds the window: the window itself, or the window manager's
+    // frame around it.
+    Window topLevel(Display* d, Window w) {
+        const Window root = DefaultRootWindow(d);
+        for (int depth = 0; w != None && depth < 64; ++depth) {
+            const Window up = parentOf(w);
+            if (up == None || up == root)
+                return w;
+            w = up;
+        }
+        return None;
+    }
+
     // What the walk knows of a window: read for a whole row of siblings at once.
     struct Known {
         std::u16string className;

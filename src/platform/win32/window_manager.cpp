@@ -3,6 +3,7 @@
 #include "platform/win32/services.h"
 
 #include <string>
+#include <vector>
 #include <windows.h>
 
 namespace velkor6::win32 {
@@ -19,6 +20,47 @@ WindowHandle handleOf(HWND w) {
 
 WindowRect rectOf(const RECT& r) {
     return {r.left, r.top, r.right, r.bottom};
+}
+
+HDC deviceContextOf(std::int64_t dc) {
+    const auto h = reinterpret_cast<HDC>(static_cast<INT_PTR>(dc));
+    return dc != 0 && GetObjectType(h) != 0 ? h : nullptr;
+}
+
+// A 32-bit top-down device-independent bitmap's description.
+BITMAPINFO topDown32(std::int32_t width, std::int32_t height) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    return info;
+}
+
+std::vector<std::uint32_t> packed(const RgbImage& image) {
+    std::vector<std::uint32_t> bits;
+    bits.reserve(image.pixels.size());
+    for (const Rgb& p : image.pixels)
+        bits.push_back((std::uint32_t{p.red} << 16) | (std::uint32_t{p.green} << 8) | p.blue);
+    return bits;
+}
+
+// The bitmap (not selected into any device context) as RGB pixels, through GetDIBits.
+std::optional<RgbImage> readBits(HDC dc, HBITMAP bitmap, std::int32_t width, std::int32_t height) {
+    BITMAPINFO info = topDown32(width, height);
+    std::vector<std::uint32_t> bits(static_cast<std::size_t>(width) *
+                                    static_cast<std::size_t>(height));
+    if (GetDIBits(dc, bitmap, 0, static_cast<UINT>(height), bits.data(), &info, DIB_RGB_COLORS) ==
+        0)
+        return std::nullopt;
+    RgbImage image(width, height);
+    for (std::size_t i = 0; i < bits.size(); ++i)
+        image.pixels[i] = {static_cast<std::uint8_t>(bits[i] >> 16),
+                           static_cast<std::uint8_t>(bits[i] >> 8),
+                           static_cast<std::uint8_t>(bits[i])};
+    return image;
 }
 
 class Win32WindowManager final : public WindowManager {
@@ -168,6 +210,85 @@ public:
     FrameMetrics frameMetrics(WindowHandle) override {
         return {GetSystemMetrics(SM_CYFRAME), GetSystemMetrics(SM_CYDLGFRAME),
                 GetSystemMetrics(SM_CYSIZE)};
+    }
+
+    // A layered window with a constant alpha; the window stays layered at full opacity too, so
+    // that a colour key the program set itself is kept.
+    bool setOpacity(WindowHandle window, double opacity) override {
+        const HWND w = windowOf(window);
+        if (!IsWindow(w))
+            return false;
+        const LONG_PTR ex = GetWindowLongPtrW(w, GWL_EXSTYLE);
+        if ((ex & WS_EX_LAYERED) == 0)
+            SetWindowLongPtrW(w, GWL_EXSTYLE, ex | WS_EX_LAYERED);
+        COLORREF key = 0;
+        BYTE alpha = 255;
+        DWORD flags = 0;
+        GetLayeredWindowAttributes(w, &key, &alpha, &flags);
+        const double clamped = opacity < 0 ? 0 : (opacity > 1 ? 1 : opacity);
+        alpha = static_cast<BYTE>(clamped * 255 + 0.5);
+        return SetLayeredWindowAttributes(w, key, alpha, (flags & LWA_COLORKEY) | LWA_ALPHA);
+    }
+
+    std::optional<RgbImage> bitmapPixels(std::int64_t handle) override {
+        const auto bitmap = reinterpret_cast<HBITMAP>(static_cast<INT_PTR>(handle));
+        BITMAP info{};
+        if (handle == 0 || GetObjectW(bitmap, sizeof info, &info) != sizeof info ||
+            info.bmWidth <= 0 || info.bmHeight <= 0)
+            return std::nullopt;
+        const HDC screen = GetDC(nullptr);
+        std::optional<RgbImage> image = readBits(screen, bitmap, info.bmWidth, info.bmHeight);
+        ReleaseDC(nullptr, screen);
+        return image;
+    }
+
+    std::optional<RgbImage> deviceContextPixels(std::int64_t dc, const WindowRect& area) override {
+        const HDC source = deviceContextOf(dc);
+        if (source == nullptr || area.width() <= 0 || area.height() <= 0)
+            return std::nullopt;
+        const HDC memory = CreateCompatibleDC(source);
+        const HBITMAP bitmap = CreateCompatibleBitmap(source, area.width(), area.height());
+        std::optional<RgbImage> image;
+        if (memory != nullptr && bitmap != nullptr) {
+            const HGDIOBJ old = SelectObject(memory, bitmap);
+            const bool copied = BitBlt(memory, 0, 0, area.width(), area.height(), source, area.left,
+                                       area.top, SRCCOPY);
+            SelectObject(memory, old);
+            if (copied)
+                image = readBits(memory, bitmap, area.width(), area.height());
+        }
+        if (bitmap != nullptr)
+            DeleteObject(bitmap);
+        if (memory != nullptr)
+            DeleteDC(memory);
+        return image;
+    }
+
+    bool drawPixels(std::int64_t dc, std::int32_t x, std::int32_t y,
+                    const RgbImage& image) override {
+        const HDC target = deviceContextOf(dc);
+        if (target == nullptr || image.width <= 0 || image.height <= 0)
+            return false;
+        std::vector<std::uint32_t> bits = packed(image);
+        const BITMAPINFO info = topDown32(image.width, image.height);
+        return SetDIBitsToDevice(target, x, y, static_cast<DWORD>(image.width),
+                                 static_cast<DWORD>(image.height), 0, 0, 0,
+                                 static_cast<UINT>(image.height), bits.data(), &info,
+                                 DIB_RGB_COLORS) != 0;
+    }
+
+    std::optional<double> opacity(WindowHandle window) override {
+        const HWND w = windowOf(window);
+        if (!IsWindow(w))
+            return std::nullopt;
+        if ((GetWindowLongPtrW(w, GWL_EXSTYLE) & WS_EX_LAYERED) == 0)
+            return 1.0;
+        COLORREF key = 0;
+        BYTE alpha = 255;
+        DWORD flags = 0;
+        if (!GetLayeredWindowAttributes(w, &key, &alpha, &flags) || (flags & LWA_ALPHA) == 0)
+            return 1.0;
+        return alpha / 255.0;
     }
 };
 
