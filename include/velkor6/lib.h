@@ -311,6 +311,9 @@ public:
     void vkrShowListViewTooltip(const ObjectRef& oListView, float x, float y,
                                 const Variant& sDefaultTooltip = u"");
     void vkrCopyListView(const ObjectRef& oSource, const ObjectRef& oTarget);
+    // The part of oForm's Picture under the list, blended over white, as the list's background.
+    void vkrCopyImageIntoListView(const ObjectRef& oForm, const ObjectRef& oListView,
+                                  std::int16_t iTransparency = 50);
     std::int32_t vkrLVWCallback(std::int32_t pfn);
 
     // --- List box, tab and field helpers ---------------------------------------------------

@@ -2,6 +2,7 @@
 // caller's list views; the `lib` members and their rows in the member table.
 #include "controls/list_view.h"
 
+#include "controls/list_background.h"
 #include "controls/list_copy.h"
 #include "controls/list_headers.h"
 #include "controls/list_items.h"
@@ -10,6 +11,8 @@
 #include "controls/list_tooltip.h"
 #include "core/convert.h"
 #include "lib/lib_members.h"
+#include "windows/picture_blend.h"
+#include "windows/picture_object.h"
 
 #include <exception>
 
@@ -275,6 +278,37 @@ void lib::vkrCopyListView(const ObjectRef& oSource, const ObjectRef& oTarget) {
         [&] {
             controls::copyListView(listView(module(), oSource), listView(module(), oTarget));
             return true;
+        },
+        false);
+}
+
+void lib::vkrCopyImageIntoListView(const ObjectRef& oForm, const ObjectRef& oListView,
+                                   std::int16_t iTransparency) {
+    constexpr std::u16string_view member = u"vkrCopyImageIntoListView";
+    trapped(
+        [&] {
+            const controls::ListView view = listView(module(), oListView);
+            if (!oForm)
+                return false;
+            // The list reads its background from this file for as long as it shows it, so the
+            // file stays; an earlier one is replaced.
+            const std::u16string file = vkrGetFullPath(vkrTempDir(), u"~LVWBACKIMG.BMP");
+            if (vkrFileExists(file))
+                module().platform().fileSystem->remove(file);
+            const Variant formPicture = oForm->call(u"Picture", CallKind::PropertyGet, {});
+            const RgbImage picture = windows::picturePixels(module(), formPicture, member);
+            const controls::PixelArea area = controls::areaOnForm(
+                *oForm, view.control(), module().platform().windowManager->twipsPerPixel().x,
+                locale());
+            const std::optional<RgbImage> part =
+                windows::cutOut(picture, area.left, area.top, area.width, area.height);
+            if (!part)
+                return false;
+            windows::saveBmp(
+                module(), file,
+                windows::overColour(*part, windows::colourOfLong(16777215), iTransparency), member);
+            ControlWindow* window = view.window();
+            return window != nullptr && window->setBackgroundImage(file);
         },
         false);
 }
@@ -584,6 +618,27 @@ void addListViewMembers(Table<lib>& t) {
          u"The target's items and columns are cleared first. Icons and SmallIcons are copied "
          u"when the source has them; an icon index of 0 or Empty is left out. The copy stops at "
          u"the first error, keeping what it made."});
+    t.push_back(
+        {139,
+         u"vkrCopyImageIntoListView",
+         CallKind::Method,
+         {required(u"oForm", T::Object), required(u"oListView", T::Object),
+          optional(u"iTransparency", T::Integer, std::int16_t{50})},
+         T::Empty,
+         [](lib& l, Args& a) -> Variant {
+             l.vkrCopyImageIntoListView(objectArg(a[0]), objectArg(a[1]), a.i16(2));
+             return {};
+         },
+         u"Shows the part of oForm's Picture that lies under the list as the list's background, "
+         u"blended over white with iTransparency percent (as vkrGetSemiTransparentPicture).",
+         u"The list's Left, Top, Width and Height are read in the form's ScaleMode and turned "
+         u"into pixels (vbPixels as they stand, other modes through the form's ScaleX and "
+         u"ScaleY). The blend is saved as \"~LVWBACKIMG.BMP\" in vkrTempDir, replacing an "
+         u"earlier file, and stays there because the list reads it while it shows it; the list's "
+         u"background colour becomes none and the file its background image. The list is not "
+         u"emptied or refilled to repaint it: setting the image repaints it. Errors are trapped: "
+         u"a form without a bitmap Picture, a list outside the picture or a list without a window "
+         u"change nothing more. Example: vkrCopyImageIntoListView Me, lvwData, 70"});
     t.push_back({138,
                  u"vkrLVWCallback",
                  CallKind::Method,

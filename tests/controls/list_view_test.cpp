@@ -5,6 +5,8 @@
 #include "fake/fake_platform.h"
 #include "lib/lib_members.h"
 #include "velkor6/lib.h"
+#include "windows/bmp_file.h"
+#include "windows/picture_object.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -421,6 +423,63 @@ TEST_F(ListViewHelpers, RowsWriteKeyAsciiBackAndTakeAnyBAdd) {
         Variant(std::int32_t{1}));
     std::vector<Variant> callback{Variant(std::int32_t{4242})};
     EXPECT_EQ(call(u"vkrLVWCallback", callback), Variant(std::int32_t{4242}));
+}
+
+} // namespace
+} // namespace velkor6
+
+namespace velkor6 {
+namespace {
+
+// The list as its form places it: Left, Top, Width and Height answered here, the rest by the list.
+class PlacedList final : public Object {
+public:
+    PlacedList(ObjectRef list, std::map<std::u16string, float> place)
+        : list_(std::move(list)), place_(std::move(place)) {}
+    std::u16string typeName() const override { return u"ListView"; }
+    Variant call(std::u16string_view name, CallKind kind, std::span<Variant> args) override {
+        const auto it = place_.find(std::u16string(name));
+        return it != place_.end() ? Variant(it->second) : list_->call(name, kind, args);
+    }
+
+private:
+    ObjectRef list_;
+    std::map<std::u16string, float> place_;
+};
+
+TEST_F(ListViewHelpers, FormPictureUnderTheListBecomesItsBackground) {
+    RgbImage picture(8, 6, {0, 0, 0});
+    picture.at(2, 1) = {200, 100, 0};
+    auto form = std::make_shared<Bag>();
+    form->properties[u"Picture"] =
+        ObjectRef(std::make_shared<windows::PictureObject>(picture, fp.module));
+    form->properties[u"ScaleMode"] = std::int32_t{3}; // pixels
+    const auto list = std::make_shared<PlacedList>(
+        view,
+        std::map<std::u16string, float>{{u"Left", 2}, {u"Top", 1}, {u"Width", 4}, {u"Height", 3}});
+
+    const std::u16string file = l.vkrGetFullPath(l.vkrTempDir(), u"~LVWBACKIMG.BMP");
+    fp.files.writeFile(file, "an older picture");
+    l.vkrCopyImageIntoListView(form, list, 25);
+
+    EXPECT_EQ(view->window->backgroundImage, file);
+    const std::optional<std::string> bytes = fp.files.readFile(file);
+    ASSERT_TRUE(bytes);
+    const std::optional<RgbImage> shown = windows::readBmp(*bytes);
+    ASSERT_TRUE(shown);
+    ASSERT_EQ(shown->width, 4);
+    ASSERT_EQ(shown->height, 3);
+    // 25 percent white over the picture: (c * 75 + 255 * 25 + 50) \ 100.
+    EXPECT_EQ(shown->at(0, 0), (Rgb{214, 139, 64}));
+    EXPECT_EQ(shown->at(1, 0), (Rgb{64, 64, 64}));
+
+    // A list that lies outside the picture leaves the list as it was.
+    view->window->backgroundImage.clear();
+    const auto outside = std::make_shared<PlacedList>(
+        view,
+        std::map<std::u16string, float>{{u"Left", 20}, {u"Top", 1}, {u"Width", 4}, {u"Height", 3}});
+    l.vkrCopyImageIntoListView(form, outside, 25);
+    EXPECT_TRUE(view->window->backgroundImage.empty());
 }
 
 } // namespace

@@ -241,6 +241,9 @@ Check "vkrCopyListView items", lv2.ListItems.Count, 3
 Check "vkrCopyListView columns", lv2.ColumnHeaders.Count, 3
 Check "vkrCopyListView sub-items", lv2.ListItems.Item(3).SubItems(1), "10"
 
+' A list view without a window and a form without a picture: the call traps its error.
+o.vkrCopyImageIntoListView lv, lv, 30
+Check "vkrCopyImageIntoListView keeps the items", lv.ListItems.Count, 3
 r = Empty : r = o.vkrLVWCallback(12345) : Check "vkrLVWCallback", r, CLng(12345)
 
 WScript.Echo passed & " passed, " & failed & " failed"
