@@ -134,6 +134,12 @@ if cmake -S "$here" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_C
     else
         fail "the CMake-built consumer printed '$out', expected 1"
     fi
+    if [ "$qtlib" = 1 ]; then
+        out=$(QT_QPA_PLATFORM=offscreen "$work/cmake/consumer_qt") ||
+            fail "the Qt consumer (find_package(velkor6 COMPONENTS qt)) exited with status $?"
+        [ "$out" = 1 ] && echo "the Qt consumer prints $out" ||
+            fail "the Qt consumer printed '$out', expected 1"
+    fi
 else
     cat "$work/configure.log" "$work/build.log" 2>/dev/null
     fail "the consumer did not build with find_package"

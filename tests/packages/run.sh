@@ -93,7 +93,8 @@ cp -a "$cache/." "$system/"
 cp /etc/resolv.conf "$system/etc/resolv.conf"
 mount -t proc proc "$system/proc"
 mkdir "$system/tmp/velkor6"
-cp "$build"/*.deb "$here/../consumer/main.cpp" "$here/../consumer/CMakeLists.txt" \
+cp "$build"/*.deb "$here/../consumer/main.cpp" "$here/../consumer/qt_main.cpp" \
+    "$here/../consumer/CMakeLists.txt" \
     "$system/tmp/velkor6/"
 
 echo "== install, build against the packages, purge"
@@ -121,6 +122,12 @@ cmake -S . -B cmake-build >cmake.log 2>&1 && cmake --build cmake-build >>cmake.l
     { cat cmake.log; fail "the consumer did not build with find_package"; }
 grep -q "velkor6 .* in /usr/lib/" cmake.log || fail "find_package did not take the packaged velkor6"
 expect1 "the find_package build" cmake-build/consumer
+# With libvelkor6-qt-dev, find_package(velkor6 COMPONENTS qt) gives velkor6::qt.
+if [ -x cmake-build/consumer_qt ]; then
+    expect1 "the Qt build" env QT_QPA_PLATFORM=offscreen cmake-build/consumer_qt
+elif dpkg-query -W libvelkor6-qt-dev >/dev/null 2>&1; then
+    fail "libvelkor6-qt-dev is installed but the Qt consumer was not built"
+fi
 # shellcheck disable=SC2046 # the flags are words
 g++ -std=c++20 main.cpp $(pkg-config --cflags --libs velkor6) -o consumer-pc ||
     fail "the consumer did not build with pkg-config"
