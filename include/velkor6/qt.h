@@ -8,9 +8,10 @@
 //   Key, Text), Clear, Remove) with items that have Text, SubItems(i), Selected, Checked, Index,
 //   Key, Tag and EnsureVisible; ColumnHeaders (Count, Item, Add(Index, Key, Text, Width,
 //   Alignment), Clear, Remove) whose headers have Text, Width, Alignment (0 left, 1 right,
-//   2 centre), Key, Tag, Index and SubItemIndex; Sorted, SortKey, SortOrder, MultiSelect,
+//   2 centre), Key, Tag, Left, Index and SubItemIndex; Sorted, SortKey, SortOrder, MultiSelect,
 //   Checkboxes, SelectedItem and HitTest(x, y). Sorted = True orders the items by the text of
-//   column SortKey, not case-sensitive, descending when SortOrder is 1.
+//   column SortKey, not case-sensitive, descending when SortOrder is 1. A column added without
+//   a width is 1440 twips wide; keys of items, columns and tabs are not case-sensitive.
 // - QListWidget and QComboBox: a ListBox and a ComboBox (AddItem, RemoveItem, Clear, ListCount,
 //   ListIndex, NewIndex, ItemData(i), List(i), Text; a QListWidget also Selected(i) and
 //   MultiSelect: 0 single, 1 simple, 2 extended).
@@ -31,8 +32,11 @@
 //
 // Errors as VB's controls raise them: an unknown member 438; an index or key out of range in a
 // collection of items, columns or tabs 35600, an unknown key 35601, a key given twice 35602; a
-// list index out of range 381 (380 for ListIndex); a control name that the form does not have
-// 730; Index of a control outside an array 343; a widget that no longer exists -2147417848.
+// list index out of range 381 (380 for ListIndex, 5 for AddItem and RemoveItem; List(i) past the
+// end reads ""); a value out of a property's range 380; a control name that the form does not
+// have 730, Controls(i) past the end 9, an element a control array lacks 340, Index of a control
+// outside an array 343; assigning a read-only property 383; a widget (or item, column or tab)
+// that no longer exists -2147417848.
 //
 // Window handles and the library's window messages. Each wrapped widget gets a handle of its own,
 // counted from 0x60000000 (X11 resource ids stay below 0x20000000, so the two never meet); hwnd

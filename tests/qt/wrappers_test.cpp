@@ -43,6 +43,7 @@ TEST(QtListView, ColumnHeadersTakeVbsOptionalArgumentsKeysAndAlignments) {
     EXPECT_EQ(tree.columnWidth(1), 80);
     EXPECT_EQ(tree.columnWidth(2), 96);
     EXPECT_EQ(num(get(amount, u"Width")), 1200);
+    EXPECT_EQ(num(get(amount, u"Left")), 3000);
     EXPECT_EQ(num(get(amount, u"Alignment")), 1);
     EXPECT_TRUE(tree.headerItem()->textAlignment(1) & Qt::AlignRight);
     EXPECT_EQ(num(get(obj(get(headers, u"Item", {u"NAME"})), u"Index")), 1);
@@ -265,7 +266,10 @@ TEST(QtForm, FieldsControlsArraysAndHandles) {
     let(multi, u"SelLength", {2});
     EXPECT_EQ(str(get(multi, u"SelText")), u"bc");
 
-    // Controls lists the named widgets, not Qt's own; arrays by their Index.
+    // Controls lists the named widgets, not Qt's own nor those of a window the form owns;
+    // arrays by their Index.
+    auto* dialog = new QWidget(form.get(), Qt::Dialog);
+    (new QLineEdit(dialog))->setObjectName("txtElsewhere");
     const ObjectRef controls = obj(get(frm, u"Controls"));
     EXPECT_EQ(num(get(controls, u"Count")), 6);
     EXPECT_EQ(errorOf([&] { get(controls, u"Item", {u"nothere"}); }), 730);

@@ -233,6 +233,11 @@ public:
                 header->setData(column, tagRole, toText(c.value()));
             return c.writes() ? Variant() : text(header->data(column, tagRole).toString());
         }
+        if (c.named(u"Left")) {
+            // From the first column's left edge, in the order the columns are shown.
+            c.readOnly();
+            return tree.header()->sectionPosition(column) * twipsPerPixel;
+        }
         if (c.named(u"Index") || c.named(u"Position")) {
             c.readOnly();
             return column + 1;

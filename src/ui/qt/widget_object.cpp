@@ -75,11 +75,13 @@ QWidget* containerOf(const QWidget& w) {
     return parent;
 }
 
-// The named widgets on a form or in a container, as VB lists its Controls.
+// The named widgets on a form or in a container, as VB lists its Controls; those of other
+// windows (a dialog the form owns) are not among them.
 std::vector<QWidget*> namedControls(const QWidget& container) {
     std::vector<QWidget*> controls;
     for (QWidget* child : container.findChildren<QWidget*>())
-        if (!child->objectName().isEmpty() && !ownedByQt(*child))
+        if (!child->objectName().isEmpty() && !ownedByQt(*child) &&
+            child->window() == container.window())
             controls.push_back(child);
     return controls;
 }
