@@ -26,15 +26,25 @@ std::int32_t ListView::columnCount() const {
     return toLong(property(*headers.object(), u"Count"), locale_);
 }
 
+// The control window where the platform knows the control (a Qt widget, a window of this
+// process), else the list-view message.
 std::int32_t ListView::columnWidth(std::int32_t column) const {
     if (windows_ == nullptr)
         return 0;
-    return windows_->sendMessage(window(), lvm::getColumnWidth, column, 0);
+    const WindowHandle handle = window();
+    if (const std::shared_ptr<ControlWindow> control = windows_->controlWindow(handle))
+        return control->columnWidth(column);
+    return windows_->sendMessage(handle, lvm::getColumnWidth, column, 0);
 }
 
 void ListView::setColumnWidth(std::int32_t column, std::int32_t width) const {
-    if (windows_ != nullptr)
-        windows_->sendMessage(window(), lvm::setColumnWidth, column, width);
+    if (windows_ == nullptr)
+        return;
+    const WindowHandle handle = window();
+    if (const std::shared_ptr<ControlWindow> control = windows_->controlWindow(handle))
+        control->setColumnWidth(column, width);
+    else
+        windows_->sendMessage(handle, lvm::setColumnWidth, column, width);
 }
 
 } // namespace velkor6::controls
