@@ -264,10 +264,55 @@ public:
     bool vkrIsKeyDown(std::int32_t lKey);
     bool vkrIsMouseButtonDown(std::int16_t lButton);
 
+    // --- List view helpers ---------------------------------------------------------------
+    // oListView answers ListItems, ColumnHeaders, SelectedItem, Sorted, SortKey, SortOrder,
+    // MultiSelect and hwnd, as a list view control does; what only the list's window tells (item
+    // state, column widths, the typed sort) needs a window behind hwnd. These members trap their
+    // errors and answer 0, false, "" or -1 (an index).
+    void vkrSortListView(const ObjectRef& oListView, std::int16_t iSortCol);
+    void vkrSetListViewHeaders(const ObjectRef& oListView, std::u16string_view sHeaders,
+                               bool bClearListItems = false);
+    // bAdd adds the style only when it is exactly True (-1).
+    void vkrSetListViewStyle(std::int32_t hCtrl, std::int32_t lStyle, const Variant& bAdd = true);
+    std::int16_t vkrGetListViewCol(const ObjectRef& oListView, std::int32_t lXPosInPixel);
+    bool vkrHasSelectedItem(const ObjectRef& oListView);
+    ObjectRef vkrSelectedItem(const ObjectRef& oListView, bool bForceSelection = false);
+    std::int32_t vkrSelItemCount(const ObjectRef& oListView);
+    void vkrListCheckAllItemsLet(const ObjectRef& oListView, bool value);
+    std::int32_t vkrListCheckedItems(const ObjectRef& oListView);
+    // oItem: a list item, a number (the 0-based index itself, for the state members) or Null.
+    std::int32_t vkrListItemIndex(const ObjectRef& oListView, const Variant& oItem);
+    bool vkrListItemChecked(const ObjectRef& oListView, const Variant& oItem);
+    void vkrListItemCheckedLet(const ObjectRef& oListView, const Variant& oItem, bool value);
+    bool vkrListItemSelected(const ObjectRef& oListView, const Variant& oItem);
+    void vkrListItemSelectedLet(const ObjectRef& oListView, const Variant& oItem, bool value);
+    std::u16string vkrListItemText(const ObjectRef& oListView, const Variant& oItem,
+                                   std::int16_t iSubItem = 0);
+    void vkrListItemTextLet(const ObjectRef& oListView, const Variant& oItem, std::int16_t iSubItem,
+                            std::u16string_view value);
+    std::int32_t vkrListSelectedItems(const ObjectRef& oListView);
+    void vkrListSelectItems(const ObjectRef& oListView, bool bSelect);
+    // Called from the list's KeyPress handler; reads the platform clock.
+    bool vkrSearchListItem(const ObjectRef& oListView, std::int16_t& KeyAscii,
+                           bool bDeselectBefore = true);
+    // The list's Parent answers p_cTooltip, which answers ToolText and Reset.
+    void vkrShowListViewTooltip(const ObjectRef& oListView, float x, float y,
+                                const Variant& sDefaultTooltip = u"");
+    void vkrCopyListView(const ObjectRef& oSource, const ObjectRef& oTarget);
+    std::int32_t vkrLVWCallback(std::int32_t pfn);
+
 private:
     std::shared_ptr<Module> module_;
     std::shared_ptr<applib> app_;
     std::u16string windowsDirectory_;
+    // The list keystroke search: the text typed so far (upper case) and, in seconds since
+    // midnight, the time after which the next key starts a new one.
+    std::u16string listSearchText_;
+    float listSearchDeadline_ = 0;
+    // The list item the tooltip last showed: its list's handle and Index (0 for none).
+    bool tooltipShown_ = false;
+    std::int32_t tooltipList_ = 0;
+    std::int32_t tooltipItem_ = 0;
 };
 
 } // namespace velkor6

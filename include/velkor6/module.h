@@ -12,6 +12,12 @@
 
 namespace velkor6 {
 
+// The list sort in progress: the column and the direction its comparers read.
+struct ListSortState {
+    std::int16_t column = 0;
+    bool descending = false;
+};
+
 // Module-wide state of one loaded library, and the platform it runs on. Tests create their own
 // modules over a fake platform so that they never share state; the front ends use one module
 // over the native platform.
@@ -50,6 +56,13 @@ private:
     std::int16_t currentLanguage_ = 1;
     std::shared_ptr<XmlDocument> resourceDocument_;
     std::optional<StatusWindow> statusWindow_;
+
+public:
+    // The last list sort's column and direction, kept between the sort and its comparers.
+    ListSortState& listSort() { return listSort_; }
+
+private:
+    ListSortState listSort_;
 };
 
 } // namespace velkor6

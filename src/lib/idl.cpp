@@ -187,6 +187,9 @@ void writeIdl(std::ostream& out) {
         {"RegistryErrorCodeConstants", registryErrorCodeConstantsMembers},
         {"RegistryOptions", registryOptionsMembers},
         {"Constants", constantsMembers},
+        {"ListViewMessageConsts", listViewMessageConstsMembers},
+        {"ListViewExStyleConsts", listViewExStyleConstsMembers},
+        {"ListViewFindItemFlags", listViewFindItemFlagsMembers},
     };
     for (const PublicEnum& e : enums)
         writeEnum(out, e);

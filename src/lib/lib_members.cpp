@@ -18,6 +18,7 @@ const Table<lib>& libMembers() {
         addBracketMembers(t);
         addValueCodeMembers(t);
         addWindowMembers(t);
+        addListViewMembers(t);
         return t;
     }();
     return table;

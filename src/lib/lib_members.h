@@ -22,5 +22,6 @@ void addDialogMembers(Table<lib>& table);
 void addBracketMembers(Table<lib>& table);
 void addValueCodeMembers(Table<lib>& table);
 void addWindowMembers(Table<lib>& table);
+void addListViewMembers(Table<lib>& table);
 
 } // namespace velkor6::dispatch

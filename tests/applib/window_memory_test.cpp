@@ -10,7 +10,7 @@ class WindowMemory : public SalesApp {
 protected:
     WindowMemory() {
         fp.windows.addMonitor({0, 0, 1920, 1080}, {0, 0, 1920, 1040});
-        fp.windows.addWindow(1, Window{0, 0, {100, 50, 500, 350}, {}, 0});
+        fp.windows.addWindow(1, Window{0, 0, {100, 50, 500, 350}, 0});
     }
     std::string section(std::string_view name) {
         const std::string text = file(iniPath);
@@ -27,12 +27,12 @@ TEST_F(WindowMemory, SavesTheRectangleInTwipsOrOnlyTheState) {
     EXPECT_EQ(section("frmMain"), "[frmMain]\r\nMaximized=no\r\nMinimized=no\r\nLeft=1500\r\n"
                                   "Top=750\r\nWidth=6000\r\nHeight=4500\r\n");
 
-    fp.windows.addWindow(2, Window{winstyle::maximize, 0, {0, 0, 10, 10}, {}, 0});
+    fp.windows.addWindow(2, Window{winstyle::maximize, 0, {0, 0, 10, 10}, 0});
     app().saveWindowPos(2, u"frmBig");
     EXPECT_EQ(section("frmBig"), "[frmBig]\r\nMaximized=yes\r\nMinimized=no\r\n");
 
     // A window with a parent is stored relative to it.
-    fp.windows.addWindow(3, Window{winstyle::child, 1, {120, 80, 220, 130}, {}, 0});
+    fp.windows.addWindow(3, Window{winstyle::child, 1, {120, 80, 220, 130}, 0});
     app().saveWindowPos(3, u"frmChild");
     EXPECT_NE(section("frmChild").find("Left=300\r\nTop=450\r\nWidth=1500\r\nHeight=750\r\n"),
               std::string::npos);
@@ -77,20 +77,31 @@ TEST_F(WindowMemory, WithoutARectangleOnlyTheStateIsRestored) {
 }
 
 TEST_F(WindowMemory, ColumnWidthsRoundTrip) {
-    fp.windows.addWindow(7, Window{0, 0, {}, {120, 80, 200}, 0});
-    const auto view = std::make_shared<fake::FakeListView>(7, 3);
+    const auto view = fake::addListView(fp.windows, 7);
+    auto& columns = view->window->columns;
+    columns.resize(3);
+    const auto widths = [&] {
+        std::vector<std::int32_t> w;
+        for (const auto& c : columns)
+            w.push_back(c.width);
+        return w;
+    };
+    columns[0].width = 120;
+    columns[1].width = 80;
+    columns[2].width = 200;
     app().saveColWidths(view, u"lvwOrders");
     EXPECT_EQ(section("ColWidths"), "[ColWidths]\r\nlvwOrders=120;80;200\r\n");
 
-    fp.windows.window(7).columnWidths = {0, 0, 0};
+    for (auto& c : columns)
+        c.width = 0;
     app().loadColWidths(view, u"lvwOrders");
-    EXPECT_EQ(fp.windows.window(7).columnWidths, (std::vector<std::int32_t>{120, 80, 200}));
+    EXPECT_EQ(widths(), (std::vector<std::int32_t>{120, 80, 200}));
 
     // Nothing stored changes nothing; an entry that is no number leaves its column alone.
     app().loadColWidths(view, u"lvwOther");
     store("[ColWidths]\r\nlvwOrders=50;x;70;90\r\n");
     app().loadColWidths(view, u"lvwOrders");
-    EXPECT_EQ(fp.windows.window(7).columnWidths, (std::vector<std::int32_t>{50, 80, 70}));
+    EXPECT_EQ(widths(), (std::vector<std::int32_t>{50, 80, 70}));
 
     EXPECT_THROW(app().saveColWidths(nullptr, u"lvwOrders"), VbError);
 }

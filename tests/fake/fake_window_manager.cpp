@@ -6,9 +6,6 @@
 namespace velkor6::fake {
 namespace {
 
-constexpr std::uint32_t getColumnWidth = 4125;
-constexpr std::uint32_t setColumnWidth = 4126;
-
 // Distance from the point to the rectangle, 0 inside it.
 std::int64_t distance(const WindowRect& r, std::int32_t x, std::int32_t y) {
     const std::int64_t dx = x < r.left ? r.left - x : x >= r.right ? x - r.right + 1 : 0;
@@ -166,18 +163,19 @@ bool FakeWindowManager::show(WindowHandle window, std::int32_t command) {
     return true;
 }
 
-std::int32_t FakeWindowManager::sendMessage(WindowHandle window, std::uint32_t message,
-                                            std::int32_t wParam, std::int32_t lParam) {
-    Window* w = find(window);
-    if (w == nullptr || wParam < 0 || static_cast<std::size_t>(wParam) >= w->columnWidths.size())
-        return 0;
-    if (message == getColumnWidth)
-        return w->columnWidths[static_cast<std::size_t>(wParam)];
-    if (message == setColumnWidth) {
-        w->columnWidths[static_cast<std::size_t>(wParam)] = lParam;
-        return 1;
-    }
+std::int32_t FakeWindowManager::sendMessage(WindowHandle, std::uint32_t, std::int32_t,
+                                            std::int32_t) {
     return 0;
+}
+
+std::shared_ptr<ControlWindow> FakeWindowManager::controlWindow(WindowHandle handle) {
+    const auto it = controls_.find(handle);
+    return it == controls_.end() ? nullptr : it->second;
+}
+
+void FakeWindowManager::addControlWindow(WindowHandle handle,
+                                         std::shared_ptr<ControlWindow> window) {
+    controls_[handle] = std::move(window);
 }
 
 std::optional<WindowRect> FakeWindowManager::workArea(std::int32_t x, std::int32_t y) {

@@ -1,11 +1,12 @@
-// Windows, monitors and list-view columns held in memory. Records every placement and state
-// change the library asks for.
+// Windows, monitors and the library's control windows held in memory. Records every placement and
+// state change the library asks for.
 #pragma once
 
 #include "velkor6/platform/window_manager.h"
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -17,8 +18,7 @@ public:
         std::uint32_t style = 0;
         WindowHandle parent = 0;
         WindowRect rect;
-        std::vector<std::int32_t> columnWidths; // a list-view window's columns
-        std::int32_t shown = 0;                 // the last show command, 0 for none
+        std::int32_t shown = 0; // the last show command, 0 for none
         std::u16string className{};
         std::u16string caption{};
         std::optional<WindowRect> client{}; // the client area; the window rectangle when unset
@@ -83,6 +83,9 @@ public:
     std::optional<WindowRect> clientRect(WindowHandle window) override;
     bool confinePointer(std::optional<WindowRect> area) override;
     FrameMetrics frameMetrics(WindowHandle) override { return frame_; }
+    std::shared_ptr<ControlWindow> controlWindow(WindowHandle handle) override;
+    // The control window (a list view) the handle stands for.
+    void addControlWindow(WindowHandle handle, std::shared_ptr<ControlWindow> window);
 
 private:
     struct Monitor {
@@ -94,6 +97,7 @@ private:
     WindowHandle firstWithParent(WindowHandle parent, std::size_t from) const;
 
     std::map<WindowHandle, Window> windows_;
+    std::map<WindowHandle, std::shared_ptr<ControlWindow>> controls_;
     std::vector<WindowHandle> order_; // the order windows were added in
     std::function<void(int)> onSearch_;
     int searches_ = 0;
