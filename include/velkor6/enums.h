@@ -7,6 +7,14 @@
 // The enumerators carry the system's own names, which <windows.h>, <shlobj.h> and their
 // companions define as macros of the same values. Those macros are set aside while this header
 // is read and restored after it, so that a client may include both in either order.
+#pragma push_macro("BS_CENTER")
+#undef BS_CENTER
+#pragma push_macro("BS_LEFT")
+#undef BS_LEFT
+#pragma push_macro("BS_RIGHT")
+#undef BS_RIGHT
+#pragma push_macro("BS_TOP")
+#undef BS_TOP
 #pragma push_macro("CSIDL_ADMINTOOLS")
 #undef CSIDL_ADMINTOOLS
 #pragma push_macro("CSIDL_ALTSTARTUP")
@@ -880,9 +888,30 @@ inline constexpr EnumMember listViewFindItemFlagsMembers[] = {
     {u"LVFI_NEARESTXY", LVFI_NEARESTXY},
 };
 
+// --- ButtonStyleConsts ---------------------------------------------------------------------
+// The text alignment bits of a button's window style: left, right and centre share the mask
+// BS_CENTER; BS_TOP is a vertical bit of its own.
+enum ButtonStyleConsts : std::int32_t {
+    BS_LEFT = 256,
+    BS_RIGHT = 512,
+    BS_CENTER = 768,
+    BS_TOP = 1024,
+};
+
+inline constexpr EnumMember buttonStyleConstsMembers[] = {
+    {u"BS_LEFT", BS_LEFT},
+    {u"BS_RIGHT", BS_RIGHT},
+    {u"BS_CENTER", BS_CENTER},
+    {u"BS_TOP", BS_TOP},
+};
+
 } // namespace velkor6
 
 // Restores the system's macros set aside at the top.
+#pragma pop_macro("BS_CENTER")
+#pragma pop_macro("BS_LEFT")
+#pragma pop_macro("BS_RIGHT")
+#pragma pop_macro("BS_TOP")
 #pragma pop_macro("CSIDL_ADMINTOOLS")
 #pragma pop_macro("CSIDL_ALTSTARTUP")
 #pragma pop_macro("CSIDL_APPDATA")

@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -301,6 +302,38 @@ public:
     void vkrCopyListView(const ObjectRef& oSource, const ObjectRef& oTarget);
     std::int32_t vkrLVWCallback(std::int32_t pfn);
 
+    // --- List box, tab and field helpers ---------------------------------------------------
+    // The caller's controls answer their VB members by name; a control array X of a form is
+    // the form's property X, answering LBound, UBound and Item. Errors give neutral results.
+    std::int32_t vkrListBoxItemSum(const ObjectRef& oList);
+    void vkrListBoxItemSumLet(const ObjectRef& oList, std::int32_t value);
+    std::int32_t vkrListBoxData(const ObjectRef& oControl, std::int16_t iIndex = -1);
+    void vkrListBoxDataLet(const ObjectRef& oControl, std::int16_t iIndex, std::int32_t value);
+    bool vkrSelectListBoxItem(const ObjectRef& oControl, std::int32_t lValue);
+    void vkrOnTabClick(const ObjectRef& oTabControl, std::u16string_view sContainerName);
+    // -1 when no option of the group is set.
+    std::int16_t vkrGetOptionIndex(const ObjectRef& oForm, std::u16string_view sOptionGroup);
+    bool vkrIsSelected(const ObjectRef& oControl);
+    void vkrSelectField(const ObjectRef& oCtrl, bool bChangeSelection = false,
+                        const ObjectRef& StatusPanel = {});
+    bool vkrHasIndex(const ObjectRef& oCtrl);
+    bool vkrIsControl(const ObjectRef& oContainer, std::u16string_view sCtlName,
+                      std::int16_t iIndex = -1);
+    ObjectRef vkrGetContainer(const ObjectRef& oControl);
+    void vkrSetFocus(const ObjectRef& oCtrl);
+    // The previous style of the edit window; 0 when it is no window.
+    std::int32_t vkrSetNoNumbers(std::int32_t lHwnd, bool bFlag);
+    // Alignment is one of ButtonStyleConsts.
+    void vkrAlignText(const ObjectRef& oButton, std::int32_t Alignment);
+    void vkrResizeGridCol(const ObjectRef& oGridControl, std::int32_t lVarCol,
+                          std::int32_t lNewWidth = -1);
+    // A press in the grip zone starts a drag that later moves follow while the left button is
+    // down.
+    void vkrCheckMouseMove(const ObjectRef& oControl, const ObjectRef& oPicBox, float x, float y,
+                           std::int16_t iDiff = 90);
+    void vkrCheckMouseDown(const ObjectRef& oControl, const ObjectRef& oPicBox, float x, float y,
+                           std::int16_t iDiff = 90);
+
 private:
     std::shared_ptr<Module> module_;
     std::shared_ptr<applib> app_;
@@ -313,6 +346,13 @@ private:
     bool tooltipShown_ = false;
     std::int32_t tooltipList_ = 0;
     std::int32_t tooltipItem_ = 0;
+    // The splitter drag vkrCheckMouseDown started: its picture box and the control coordinate
+    // the next move is measured from.
+    struct SplitterDrag {
+        std::weak_ptr<Object> pictureBox;
+        double from = 0;
+    };
+    std::optional<SplitterDrag> splitterDrag_;
 };
 
 } // namespace velkor6

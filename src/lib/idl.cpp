@@ -190,6 +190,7 @@ void writeIdl(std::ostream& out) {
         {"ListViewMessageConsts", listViewMessageConstsMembers},
         {"ListViewExStyleConsts", listViewExStyleConstsMembers},
         {"ListViewFindItemFlags", listViewFindItemFlagsMembers},
+        {"ButtonStyleConsts", buttonStyleConstsMembers},
     };
     for (const PublicEnum& e : enums)
         writeEnum(out, e);

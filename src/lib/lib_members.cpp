@@ -19,6 +19,7 @@ const Table<lib>& libMembers() {
         addValueCodeMembers(t);
         addWindowMembers(t);
         addListViewMembers(t);
+        addControlMembers(t);
         return t;
     }();
     return table;

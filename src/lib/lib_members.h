@@ -23,5 +23,6 @@ void addBracketMembers(Table<lib>& table);
 void addValueCodeMembers(Table<lib>& table);
 void addWindowMembers(Table<lib>& table);
 void addListViewMembers(Table<lib>& table);
+void addControlMembers(Table<lib>& table);
 
 } // namespace velkor6::dispatch

@@ -13,12 +13,14 @@
 
 namespace velkor6::fake {
 
-// Clear, AddItem, NewIndex and ItemData; a sorted list puts each new entry in its place.
+// Clear, AddItem, NewIndex, ListCount, ListIndex, ItemData(i) and Selected(i); a sorted list
+// puts each new entry in its place. An index out of range raises 381, as VB's lists do.
 class FakeListBox final : public Object {
 public:
     struct Entry {
         std::u16string text;
         std::int32_t itemData = 0;
+        bool selected = false;
         friend bool operator==(const Entry&, const Entry&) = default;
     };
 
@@ -29,6 +31,8 @@ public:
         const Locale loc = Locale::englishUS();
         if (name == u"Clear") {
             entries.clear();
+            newIndex_ = -1;
+            listIndex = -1;
             return {};
         }
         if (name == u"AddItem") {
@@ -46,17 +50,41 @@ public:
         if (name == u"NewIndex")
             return newIndex_;
         if (name == u"ItemData" && kind == CallKind::PropertyLet) {
-            entries.at(static_cast<std::size_t>(toLong(args[0], loc))).itemData =
-                toLong(args[1], loc);
+            entry(args[0]).itemData = toLong(args[1], loc);
             return {};
         }
+        if (name == u"ItemData")
+            return entry(args[0]).itemData;
+        if (name == u"Selected" && kind == CallKind::PropertyLet) {
+            entry(args[0]).selected = toBoolean(args[1], loc);
+            return {};
+        }
+        if (name == u"Selected")
+            return entry(args[0]).selected;
+        if (name == u"ListCount")
+            return static_cast<std::int32_t>(entries.size());
+        if (name == u"ListIndex" && kind == CallKind::PropertyLet) {
+            listIndex = toLong(args[0], loc);
+            return {};
+        }
+        if (name == u"ListIndex")
+            return listIndex;
         throw VbError(vberr::noSuchMember);
     }
 
     std::vector<Entry> entries;
     int failAfter = -1; // AddItem fails after this many entries; -1 never
+    std::int32_t listIndex = -1;
 
 private:
+    Entry& entry(const Variant& index) {
+        const std::int32_t i = toLong(index, Locale::englishUS());
+        if (i < 0 || i >= static_cast<std::int32_t>(entries.size()))
+            throw VbError(invalidPropertyArrayIndex);
+        return entries[static_cast<std::size_t>(i)];
+    }
+    static constexpr std::int32_t invalidPropertyArrayIndex = 381;
+
     bool sorted_;
     std::int32_t newIndex_ = -1;
 };

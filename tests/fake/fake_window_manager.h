@@ -84,7 +84,7 @@ public:
     bool confinePointer(std::optional<WindowRect> area) override;
     FrameMetrics frameMetrics(WindowHandle) override { return frame_; }
     std::shared_ptr<ControlWindow> controlWindow(WindowHandle handle) override;
-    // The control window (a list view) the handle stands for.
+    // The control window (a list view, text box or button) the handle stands for.
     void addControlWindow(WindowHandle handle, std::shared_ptr<ControlWindow> window);
 
 private:

@@ -34,6 +34,8 @@ TEST(EnumsAfterWindowsHeaders, KeepTheSystemsMacrosAndValues) {
     EXPECT_EQ(valueOf(velkor6::registryValueTypesMembers, u"REG_DWORD"), REG_DWORD);
     EXPECT_EQ(valueOf(velkor6::registryErrorCodeConstantsMembers, u"ERROR_ACCESS_DENIED"),
               ERROR_ACCESS_DENIED);
+    EXPECT_EQ(valueOf(velkor6::buttonStyleConstsMembers, u"BS_CENTER"), BS_CENTER);
+    EXPECT_EQ(valueOf(velkor6::buttonStyleConstsMembers, u"BS_TOP"), BS_TOP);
 }
 
 } // namespace
