@@ -131,7 +131,9 @@ ObjectRef lib::vkrSelectedItem(const ObjectRef& oListView, bool bForceSelection)
 std::int32_t lib::vkrSelItemCount(const ObjectRef& oListView) {
     return trapped(
         [&] {
-            ControlWindow* window = listView(module(), oListView).window();
+            // The view owns the window: it must outlive the pointer.
+            const controls::ListView view = listView(module(), oListView);
+            ControlWindow* window = view.window();
             return window != nullptr ? window->selectedCount() : 0;
         },
         0);
@@ -140,7 +142,8 @@ std::int32_t lib::vkrSelItemCount(const ObjectRef& oListView) {
 void lib::vkrListCheckAllItemsLet(const ObjectRef& oListView, bool value) {
     trapped(
         [&] {
-            if (ControlWindow* window = listView(module(), oListView).window())
+            const controls::ListView view = listView(module(), oListView);
+            if (ControlWindow* window = view.window())
                 controls::checkAll(*window, value);
             return true;
         },
@@ -150,7 +153,8 @@ void lib::vkrListCheckAllItemsLet(const ObjectRef& oListView, bool value) {
 std::int32_t lib::vkrListCheckedItems(const ObjectRef& oListView) {
     return trapped(
         [&] {
-            ControlWindow* window = listView(module(), oListView).window();
+            const controls::ListView view = listView(module(), oListView);
+            ControlWindow* window = view.window();
             return window != nullptr ? controls::checkedCount(*window) : 0;
         },
         0);
