@@ -4,9 +4,14 @@
 #include "velkor6/qt.h"
 
 #include <QFile>
+#include <QGroupBox>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTreeWidget>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
 #include <memory>
 #include <vector>
@@ -78,6 +83,45 @@ TEST(QtLibraryMembers, ListBoxFlagsSelectTheirItems) {
     std::ranges::sort(selected);
     EXPECT_EQ(selected, (std::vector<QString>{"1", "4", "5"}));
     EXPECT_EQ(lib.vkrListBoxItemSum(wrap(&list)), 5);
+}
+
+TEST(QtLibraryMembers, StylesAndTabsReachTheWidgetsByHandleAndName) {
+    velkor6::lib lib(velkor6::Module::createDefault());
+    QWidget form;
+    auto* layout = new QVBoxLayout(&form);
+    auto* tabs = new QTabWidget;
+    layout->addWidget(tabs);
+    std::vector<QGroupBox*> frames;
+    for (int i = 1; i <= 3; ++i) {
+        tabs->addTab(new QWidget, QStringLiteral("Tab %1").arg(i));
+        frames.push_back(new QGroupBox);
+        frames.back()->setObjectName("fraPage");
+        frames.back()->setProperty("Index", i);
+        layout->addWidget(frames.back());
+    }
+    tabs->setCurrentIndex(1);
+    lib.vkrOnTabClick(wrap(tabs), u"fraPage");
+    EXPECT_TRUE(frames[0]->isHidden());
+    EXPECT_FALSE(frames[1]->isHidden());
+    EXPECT_TRUE(frames[2]->isHidden());
+
+    auto* edit = new QLineEdit(&form);
+    const std::int32_t previous = lib.vkrSetNoNumbers(velkor6::qt::windowHandle(edit), true);
+    EXPECT_EQ(previous & 8192, 0);
+    ASSERT_NE(edit->validator(), nullptr);
+    QString typed = "4a";
+    int at = 0;
+    EXPECT_EQ(edit->validator()->validate(typed, at), QValidator::Invalid);
+    auto* button = new QPushButton("OK", &form);
+    lib.vkrAlignText(wrap(button), 512);
+    EXPECT_TRUE(button->styleSheet().contains("text-align: right"));
+
+    const auto tree = amounts();
+    lib.vkrSetListViewStyle(velkor6::qt::windowHandle(tree.get()), 4);
+    EXPECT_EQ(tree->topLevelItem(2)->checkState(0), Qt::Unchecked);
+    for (int c = 0; c < 3; ++c)
+        tree->setColumnWidth(c, 40);
+    EXPECT_EQ(lib.vkrGetListViewCol(wrap(tree.get()), 85), 2);
 }
 
 TEST(QtLibraryMembers, ColumnWidthsGoThroughTheSettingsFile) {
