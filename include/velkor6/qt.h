@@ -11,7 +11,9 @@
 //   2 centre), Key, Tag, Left, Index and SubItemIndex; Sorted, SortKey, SortOrder, MultiSelect,
 //   Checkboxes, SelectedItem and HitTest(x, y). Sorted = True orders the items by the text of
 //   column SortKey, not case-sensitive, descending when SortOrder is 1. A column added without
-//   a width is 1440 twips wide; keys of items, columns and tabs are not case-sensitive.
+//   a width is 1440 twips wide; keys of items, columns and tabs are not case-sensitive. A tree
+//   widget has no image lists: Icons and SmallIcons read Nothing, an item's Icon and SmallIcon
+//   Empty, and giving an item a picture raises 35613.
 // - QListWidget and QComboBox: a ListBox and a ComboBox (AddItem, RemoveItem, Clear, ListCount,
 //   ListIndex, NewIndex, ItemData(i), List(i), Text; a QListWidget also Selected(i) and
 //   MultiSelect: 0 single, 1 simple, 2 extended).

@@ -67,6 +67,24 @@ TEST(QtLibraryMembers, SortHeadersAndChecksOnATreeWidget) {
     EXPECT_EQ(lib.vkrListCheckedItems(lv), 2);
 }
 
+TEST(QtLibraryMembers, CopyListViewBetweenTrees) {
+    velkor6::lib lib(velkor6::Module::createDefault());
+    const auto source = amounts();
+    source->headerItem()->setText(1, "Amount");
+    source->headerItem()->setTextAlignment(1, Qt::AlignRight);
+    source->setColumnWidth(1, 70);
+    QTreeWidget target;
+    new QTreeWidgetItem(&target, {"old"});
+    lib.vkrCopyListView(wrap(source.get()), wrap(&target));
+    ASSERT_EQ(target.columnCount(), 3);
+    EXPECT_EQ(target.headerItem()->text(1), "Amount");
+    EXPECT_TRUE(target.headerItem()->textAlignment(1) & Qt::AlignRight);
+    EXPECT_EQ(target.columnWidth(1), 70);
+    EXPECT_EQ(cells(target, 0), cells(*source, 0));
+    EXPECT_EQ(cells(target, 1), (std::vector<QString>{"12", "2", "10"}));
+    EXPECT_EQ(cells(target, 2), (std::vector<QString>{"open", "open", "open"}));
+}
+
 TEST(QtLibraryMembers, ListBoxFlagsSelectTheirItems) {
     velkor6::lib lib(velkor6::Module::createDefault());
     QListWidget list;

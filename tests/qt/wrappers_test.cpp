@@ -89,6 +89,8 @@ TEST(QtListView, ItemsSelectionCheckAndSortingAsVbsListView) {
     EXPECT_EQ(num(get(obj(get(items, u"Item", {u"kgamma"})), u"Index")), 3);
     EXPECT_EQ(errorOf([&] { run(items, u"Add", {missing, u"KBETA", u"dup"}); }), 35602);
     EXPECT_EQ(errorOf([&] { get(items, u"Item", {4}); }), 35600);
+    EXPECT_EQ(errorOf([&] { run(items, u"Add", {missing, missing, u"pic", 1}); }), 35613);
+    EXPECT_EQ(num(get(items, u"Count")), 3);
     EXPECT_EQ(errorOf([&] { get(alpha, u"SubItems", {2}); }), 35600);
     let(alpha, u"SubItems", {1, u"x"});
     EXPECT_EQ(tree.topLevelItem(1)->text(1), "x");

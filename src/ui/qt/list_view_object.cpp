@@ -99,6 +99,12 @@ public:
                 i->setData(0, tagRole, toText(c.value()));
             return c.writes() ? Variant() : text(i->data(0, tagRole).toString());
         }
+        if (c.named(u"Icon") || c.named(u"SmallIcon")) {
+            // Pictures come from image lists, which a tree widget does not have.
+            if (c.writes())
+                raise(ctlerr::noImageList);
+            return Variant();
+        }
         if (c.named(u"EnsureVisible")) {
             tree.scrollToItem(i);
             return true;
@@ -158,6 +164,8 @@ public:
             if (!key.isEmpty() && itemOfKey(tree, key) >= 0)
                 raise(ctlerr::keyNotUnique);
             const QString itemText = c.has(2) ? toText(c.arg(2)) : QString();
+            if ((c.has(3) && !c.arg(3).isEmpty()) || (c.has(4) && !c.arg(4).isEmpty()))
+                raise(ctlerr::noImageList);
             if (!c.has(0) && sorted(tree))
                 at = sortedPosition(tree, itemText);
             QTreeWidgetItem* item = insertItem(tree, at, itemText);
@@ -388,6 +396,12 @@ protected:
                 return (style & bit) != 0;
             setExtendedStyle(tree, toBool(c.value()) ? style | bit : style & ~bit);
             return Variant();
+        }
+        if (c.named(u"Icons") || c.named(u"SmallIcons")) {
+            // No image list can be attached: the list has none.
+            if (c.writes())
+                raise(ctlerr::invalidPropertyValue);
+            return Variant::nothing();
         }
         if (c.named(u"SelectedItem")) {
             if (!c.writes()) {

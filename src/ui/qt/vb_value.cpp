@@ -25,6 +25,8 @@ std::u16string describe(std::int32_t number) {
         return u"Element not found";
     case ctlerr::keyNotUnique:
         return u"Key is not unique in collection";
+    case ctlerr::noImageList:
+        return u"ImageList must be initialized before it can be used";
     case ctlerr::disconnected:
         return u"Automation error: the object invoked has disconnected from its clients";
     default:

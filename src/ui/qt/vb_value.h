@@ -21,6 +21,7 @@ inline constexpr std::int32_t controlNotFound = 730;
 inline constexpr std::int32_t indexOutOfBounds = 35600;
 inline constexpr std::int32_t elementNotFound = 35601;
 inline constexpr std::int32_t keyNotUnique = 35602;
+inline constexpr std::int32_t noImageList = 35613;
 // RPC_E_DISCONNECTED: the object behind the reference is gone.
 inline constexpr std::int32_t disconnected = static_cast<std::int32_t>(0x80010108u);
 } // namespace ctlerr
