@@ -21,7 +21,6 @@ public:
     ListView(ObjectRef control, WindowManager* windows, const Locale& loc);
 
     Object& control() const { return *control_; }
-    const ObjectRef& controlRef() const { return control_; }
     const Locale& locale() const { return locale_; }
 
     // The control's hwnd property.

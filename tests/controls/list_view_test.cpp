@@ -65,6 +65,7 @@ TEST_F(ListViewHelpers, SortsByTheTypeOfTheFirstFilledCell) {
     EXPECT_EQ(fp.module->listSort().column, 1);
     EXPECT_FALSE(fp.module->listSort().descending);
     EXPECT_EQ(view->mousePointers, (std::vector<std::int16_t>{11, 0}));
+    EXPECT_EQ(view->window->textReads, 5); // each cell once, not once per comparison
 
     l.vkrSortListView(view, 1);
     EXPECT_EQ(view->texts(1), (Strings{u"12", u"10", u"2", u"", u"-1"}));

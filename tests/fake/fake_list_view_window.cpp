@@ -54,6 +54,7 @@ std::int32_t FakeListViewWindow::findItem(std::u16string_view text, std::int32_t
 }
 
 std::u16string FakeListViewWindow::itemText(std::int32_t item, std::int32_t subItem) {
+    ++textReads;
     const Item* i = at(item);
     if (i == nullptr || subItem < 0 || static_cast<std::size_t>(subItem) >= i->cells.size())
         return {};
@@ -125,7 +126,6 @@ bool FakeListViewWindow::sortItems(const std::function<int(std::int32_t, std::in
             const std::size_t hi = std::min(lo + 2 * width, order.size());
             std::size_t l = lo, r = mid, out = lo;
             while (l < mid && r < hi) {
-                ++comparisons;
                 merged[out++] = compare(order[l], order[r]) > 0 ? order[r++] : order[l++];
             }
             while (l < mid)

@@ -48,7 +48,7 @@ public:
     // What the library asked for.
     std::vector<StateChange> stateChanges;
     int sorts = 0;
-    int comparisons = 0;
+    int textReads = 0;
 
     // --- ControlWindow -------------------------------------------------------------------
     std::uint32_t style() override { return styleBits; }

@@ -2,11 +2,18 @@
 ' what the list's members tell (items, columns, SelectedItem, Sorted) works, what only a list
 ' window tells (item state, column widths, the typed sort) answers neutrally, as the list has no
 ' window (hwnd 0).
-' Check, Fail and the counters come from check.inc, which the runner puts first.
+' Check, Fail and the counters come from check.inc, which the runner puts first. Wine's VBScript
+' takes one name per declaration in a class, and reaches a default member through a class's
+' variable only by its name (ListItems.Item(1), not ListItems(1)).
 
 
 Class LvItem
-    Public Text, Selected, Index, Icon, SmallIcon, Visible
+    Public Text
+    Public Selected
+    Public Index
+    Public Icon
+    Public SmallIcon
+    Public Visible
     Private subs
     Private Sub Class_Initialize()
         ReDim subs(9)
@@ -25,7 +32,8 @@ Class LvItem
 End Class
 
 Class LvItems
-    Private items, n
+    Private items
+    Private n
     Private Sub Class_Initialize()
         ReDim items(9)
         n = 0
@@ -51,11 +59,15 @@ Class LvItems
 End Class
 
 Class LvHeader
-    Public Text, Width, Alignment, Key
+    Public Text
+    Public Width
+    Public Alignment
+    Public Key
 End Class
 
 Class LvHeaders
-    Private items, n
+    Private items
+    Private n
     Private Sub Class_Initialize()
         ReDim items(9)
         n = 0
@@ -87,7 +99,8 @@ Class LvHeaders
 End Class
 
 Class LvTooltip
-    Public ToolText, Resets
+    Public ToolText
+    Public Resets
     Private Sub Class_Initialize()
         Resets = 0
     End Sub
@@ -101,8 +114,17 @@ Class LvForm
 End Class
 
 Class LvFake
-    Public hwnd, ListItems, ColumnHeaders, Sorted, SortKey, SortOrder, MultiSelect, Parent
-    Public Icons, SmallIcons, Pointers
+    Public hwnd
+    Public ListItems
+    Public ColumnHeaders
+    Public Sorted
+    Public SortKey
+    Public SortOrder
+    Public MultiSelect
+    Public Parent
+    Public Icons
+    Public SmallIcons
+    Public Pointers
     Private sel
     Private Sub Class_Initialize()
         hwnd = 0
@@ -127,7 +149,7 @@ Class LvFake
     ' Rows of 240 twips from the top.
     Public Function HitTest(x, y)
         If y >= 0 And y < 240 * ListItems.Count Then
-            Set HitTest = ListItems(Int(y / 240) + 1)
+            Set HitTest = ListItems.Item(Int(y / 240) + 1)
         Else
             Set HitTest = Nothing
         End If
@@ -142,10 +164,10 @@ Set lv = New LvFake
 o.vkrSetListViewHeaders lv, "<Name|2000|name;>Amount|1200;^State"
 Check "vkrSetListViewHeaders", Err.Number, CLng(0)
 Check "three columns", lv.ColumnHeaders.Count, 3
-Check "the first column's key", lv.ColumnHeaders(1).Key, "name"
-Check "the second column's width", lv.ColumnHeaders(2).Width, CLng(1200)
-Check "the second column is right-aligned", lv.ColumnHeaders(2).Alignment, 1
-Check "the third column is centred", lv.ColumnHeaders(3).Alignment, 2
+Check "the first column's key", lv.ColumnHeaders.Item(1).Key, "name"
+Check "the second column's width", lv.ColumnHeaders.Item(2).Width, CLng(1200)
+Check "the second column is right-aligned", lv.ColumnHeaders.Item(2).Alignment, 1
+Check "the third column is centred", lv.ColumnHeaders.Item(3).Alignment, 2
 
 Set it = lv.ListItems.Add(Empty, Empty, "Brie", Empty, Empty)
 it.SubItems(1) = "12"
@@ -178,15 +200,15 @@ o.vkrListItemText(lv, 0, 1) = "x" : Check "vkrListItemText let", Err.Number, CLn
 r = Empty : r = o.vkrListItemText(lv, 0) : Check "vkrListItemText", r, ""
 
 ' Items by their members.
-r = Empty : r = o.vkrListItemIndex(lv, lv.ListItems(2)) : Check "vkrListItemIndex", r, CLng(1)
+r = Empty : r = o.vkrListItemIndex(lv, lv.ListItems.Item(2)) : Check "vkrListItemIndex", r, CLng(1)
 r = Empty : r = o.vkrListItemIndex(lv, Null) : Check "vkrListItemIndex of Null", r, CLng(-1)
 r = Empty : r = o.vkrHasSelectedItem(lv) : Check "vkrHasSelectedItem without one", r, False
-Set lv.SelectedItem = lv.ListItems(2)
+Set lv.SelectedItem = lv.ListItems.Item(2)
 r = Empty : r = o.vkrHasSelectedItem(lv) : Check "vkrHasSelectedItem", r, True
 Set r = Nothing
 Set r = o.vkrSelectedItem(lv, True)
 Check "vkrSelectedItem", r.Text, "Gouda"
-Check "vkrSelectedItem forces the selection", lv.ListItems(2).Selected, True
+Check "vkrSelectedItem forces the selection", lv.ListItems.Item(2).Selected, True
 o.vkrListSelectItems lv, True
 r = Empty : r = o.vkrListSelectedItems(lv) : Check "vkrListSelectItems and vkrListSelectedItems", r, CLng(3)
 
@@ -195,8 +217,8 @@ key = 98
 r = Empty : r = o.vkrSearchListItem(lv, key) : Check "vkrSearchListItem finds", r, True
 Check "vkrSearchListItem consumes the key", key, CInt(0)
 Check "the item found is the selected item", lv.SelectedItem.Text, "Brie"
-Check "the others are deselected", lv.ListItems(2).Selected, False
-Check "the item found is made visible", lv.ListItems(1).Visible, True
+Check "the others are deselected", lv.ListItems.Item(2).Selected, False
+Check "the item found is made visible", lv.ListItems.Item(1).Visible, True
 key = 32
 r = Empty : r = o.vkrSearchListItem(lv, key, False) : Check "space", r, False
 Check "space consumes the key", key, CInt(0)
@@ -217,7 +239,7 @@ Set lv2 = New LvFake
 o.vkrCopyListView lv, lv2
 Check "vkrCopyListView items", lv2.ListItems.Count, 3
 Check "vkrCopyListView columns", lv2.ColumnHeaders.Count, 3
-Check "vkrCopyListView sub-items", lv2.ListItems(3).SubItems(1), "10"
+Check "vkrCopyListView sub-items", lv2.ListItems.Item(3).SubItems(1), "10"
 
 r = Empty : r = o.vkrLVWCallback(12345) : Check "vkrLVWCallback", r, CLng(12345)
 
