@@ -5,10 +5,11 @@ include(CMakePackageConfigHelpers)
 
 set(VELKOR6_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/velkor6)
 
+# velkor6/qt.h goes with the Qt library's development files (src/ui/qt), where that is built.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/velkor6
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
   COMPONENT dev
-  FILES_MATCHING PATTERN "*.h")
+  FILES_MATCHING PATTERN "*.h" PATTERN "qt.h" EXCLUDE)
 install(TARGETS velkor6 EXPORT velkor6-targets
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev
@@ -36,6 +37,17 @@ install(EXPORT velkor6-targets
   NAMESPACE velkor6::
   DESTINATION ${VELKOR6_CMAKE_DIR}
   COMPONENT dev)
+# velkor6::qt in a file of its own, which the package config includes where it is installed: the
+# Qt library is a package of its own (libvelkor6-qt-dev), so find_package(velkor6) works without
+# it and find_package(velkor6 COMPONENTS qt) asks for it.
+if(TARGET velkor6_qt)
+  install(EXPORT velkor6-qt-targets
+    NAMESPACE velkor6::
+    DESTINATION ${VELKOR6_CMAKE_DIR}
+    COMPONENT qtdev)
+  export(EXPORT velkor6-qt-targets NAMESPACE velkor6::
+    FILE ${PROJECT_BINARY_DIR}/velkor6-qt-targets.cmake)
+endif()
 # The build tree is a package too: find_package(velkor6) with velkor6_DIR set to it (the
 # example_cpp test builds examples/cpp so).
 export(EXPORT velkor6-targets NAMESPACE velkor6:: FILE ${PROJECT_BINARY_DIR}/velkor6-targets.cmake)

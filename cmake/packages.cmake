@@ -15,7 +15,7 @@ if(VELKOR6_PROGRAM)
   list(APPEND CPACK_COMPONENTS_ALL program)
 endif()
 if(TARGET velkor6_qt)
-  list(APPEND CPACK_COMPONENTS_ALL qt)
+  list(APPEND CPACK_COMPONENTS_ALL qt qtdev)
 endif()
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
@@ -40,8 +40,24 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS libvelkor6-qt)
 set(CPACK_DEBIAN_QT_PACKAGE_NAME libvelkor6-qt)
 set(CPACK_DEBIAN_QT_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_QT_DESCRIPTION
-    "VB-style text, number, file and settings helpers (Qt 6 dialogs)
-The library's message, input and status windows drawn with Qt 6 Widgets on an X display.")
+    "VB-style text, number, file and settings helpers (Qt 6 dialogs and controls)
+The library's message, input and status windows drawn with Qt 6 Widgets on an X display, and
+the Qt widgets of a program presented as the controls the library's members work on.")
+# It links the library; its shared-library dependencies are found beside it in the build (not
+# installed on the build machine), and the exact version is stated here.
+set(CPACK_DEBIAN_QT_PACKAGE_DEPENDS "${runtime_package} (= ${deb_version})")
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/tools/velkor6)
+
+# velkor6/qt.h and velkor6::qt for programs that hand their Qt widgets to the library.
+set(CPACK_DEBIAN_QTDEV_PACKAGE_NAME libvelkor6-qt-dev)
+set(CPACK_DEBIAN_QTDEV_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_QTDEV_PACKAGE_DEPENDS
+    "libvelkor6-qt (= ${deb_version}), libvelkor6-dev (= ${deb_version}), qt6-base-dev")
+set(CPACK_DEBIAN_QTDEV_DESCRIPTION
+    "VB-style text, number, file and settings helpers (Qt development files)
+The header velkor6/qt.h and the CMake target velkor6::qt (find_package(velkor6 COMPONENTS qt)):
+a Qt program's widgets as the list views, list boxes, tab strips and text boxes that the
+library's members take.")
 
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME libvelkor6-dev)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)

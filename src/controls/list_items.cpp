@@ -16,7 +16,7 @@ std::int32_t itemIndex(const ListView& view, const Variant& item) {
     if (!isItem && !item.isString())
         return -1;
     if (view.sorted()) {
-        ControlWindow* window = view.window();
+        const std::shared_ptr<ControlWindow> window = view.window();
         if (window == nullptr)
             return -1;
         return window->findItem(isItem ? view.text(*item.object()) : item.string(), -1);

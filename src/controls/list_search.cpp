@@ -36,7 +36,7 @@ ObjectRef firstMatch(const ListView& view, std::u16string_view pattern) {
 }
 
 void deselectAll(const ListView& view) {
-    if (ControlWindow* window = view.window()) {
+    if (const std::shared_ptr<ControlWindow> window = view.window()) {
         window->setItemState(-1, 0, lvis::selected);
         return;
     }

@@ -54,7 +54,7 @@ void sortListView(const ListView& view, std::int16_t column, ListSortState& stat
         return;
     }
     view.setSorted(false);
-    ControlWindow* window = view.window();
+    const std::shared_ptr<ControlWindow> window = view.window();
     if (window == nullptr)
         return;
     // Each cell is read and converted once; the comparers then only look the keys up.

@@ -37,13 +37,13 @@ WindowHandle ListView::handle() const {
     return toLong(get(*control_, u"hwnd"), locale_);
 }
 
-ControlWindow* ListView::window() const {
+std::shared_ptr<ControlWindow> ListView::window() const {
     if (!windowLooked_) {
         windowLooked_ = true;
         if (windows_ != nullptr)
             window_ = windows_->controlWindow(handle());
     }
-    return window_.get();
+    return window_;
 }
 
 ObjectRef ListView::columnHeaders() const {
@@ -59,12 +59,12 @@ ObjectRef ListView::columnHeader(std::int32_t index) const {
 }
 
 std::int32_t ListView::columnWidth(std::int32_t column) const {
-    ControlWindow* w = window();
+    const std::shared_ptr<ControlWindow> w = window();
     return w == nullptr ? 0 : w->columnWidth(column);
 }
 
 void ListView::setColumnWidth(std::int32_t column, std::int32_t width) const {
-    if (ControlWindow* w = window())
+    if (const std::shared_ptr<ControlWindow> w = window())
         w->setColumnWidth(column, width);
 }
 

@@ -26,7 +26,7 @@ public:
     // The control's hwnd property.
     WindowHandle handle() const;
     // The list's window; nullptr when the platform has none for the handle.
-    ControlWindow* window() const;
+    std::shared_ptr<ControlWindow> window() const;
 
     // --- Columns -------------------------------------------------------------------------
     ObjectRef columnHeaders() const;

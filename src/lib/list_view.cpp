@@ -40,7 +40,7 @@ R onItem(Module& m, const ObjectRef& control, const Variant& item, F f, R neutra
     return trapped(
         [&] {
             const controls::ListView view = listView(m, control);
-            ControlWindow* window = view.window();
+            const std::shared_ptr<ControlWindow> window = view.window();
             if (window == nullptr)
                 return neutral;
             const auto index = controls::referencedItem(view, item);
@@ -105,7 +105,7 @@ std::int16_t lib::vkrGetListViewCol(const ObjectRef& oListView, std::int32_t lXP
     return trapped(
         [&] {
             const controls::ListView view = listView(module(), oListView);
-            ControlWindow* window = view.window();
+            const std::shared_ptr<ControlWindow> window = view.window();
             if (window == nullptr)
                 return std::int16_t{0};
             return controls::columnAt(*window, view.columnCount(), lXPosInPixel);
@@ -134,7 +134,8 @@ ObjectRef lib::vkrSelectedItem(const ObjectRef& oListView, bool bForceSelection)
 std::int32_t lib::vkrSelItemCount(const ObjectRef& oListView) {
     return trapped(
         [&] {
-            ControlWindow* window = listView(module(), oListView).window();
+            const controls::ListView view = listView(module(), oListView);
+            const std::shared_ptr<ControlWindow> window = view.window();
             return window != nullptr ? window->selectedCount() : 0;
         },
         0);
@@ -143,7 +144,8 @@ std::int32_t lib::vkrSelItemCount(const ObjectRef& oListView) {
 void lib::vkrListCheckAllItemsLet(const ObjectRef& oListView, bool value) {
     trapped(
         [&] {
-            if (ControlWindow* window = listView(module(), oListView).window())
+            const controls::ListView view = listView(module(), oListView);
+            if (const std::shared_ptr<ControlWindow> window = view.window())
                 controls::checkAll(*window, value);
             return true;
         },
@@ -153,7 +155,8 @@ void lib::vkrListCheckAllItemsLet(const ObjectRef& oListView, bool value) {
 std::int32_t lib::vkrListCheckedItems(const ObjectRef& oListView) {
     return trapped(
         [&] {
-            ControlWindow* window = listView(module(), oListView).window();
+            const controls::ListView view = listView(module(), oListView);
+            const std::shared_ptr<ControlWindow> window = view.window();
             return window != nullptr ? controls::checkedCount(*window) : 0;
         },
         0);
@@ -307,7 +310,7 @@ void lib::vkrCopyImageIntoListView(const ObjectRef& oForm, const ObjectRef& oLis
             windows::saveBmp(
                 module(), file,
                 windows::overColour(*part, windows::colourOfLong(16777215), iTransparency), member);
-            ControlWindow* window = view.window();
+            const std::shared_ptr<ControlWindow> window = view.window();
             return window != nullptr && window->setBackgroundImage(file);
         },
         false);

@@ -37,10 +37,16 @@ version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$build/CMakeCache.txt")
 major=${version%%.*}
 shared=0
 grep -q '^VELKOR6_SHARED:BOOL=ON$' "$build/CMakeCache.txt" && shared=1
-expected=$( (cd "$root/include" && find velkor6 -name '*.h' | sed 's|^|include/|')
+qtlib=0
+[ -f "$build/tools/velkor6/libvelkor6-qt.so" ] && qtlib=1
+expected=$( (cd "$root/include" && find velkor6 -name '*.h' ! -name qt.h | sed 's|^|include/|')
             grep -q '^VELKOR6_PROGRAM:BOOL=ON$' "$build/CMakeCache.txt" && echo bin/velkor6
-            # The Qt dialog host, where Qt was there to build it.
-            [ -f "$build/tools/velkor6/libvelkor6-qt.so" ] && echo "$libdir/libvelkor6-qt.so"
+            # The Qt library with its header and CMake target, where Qt was there to build it.
+            if [ "$qtlib" = 1 ]; then
+                printf '%s\n' "$libdir/libvelkor6-qt.so" include/velkor6/qt.h \
+                    "$libdir/cmake/velkor6/velkor6-qt-targets.cmake" \
+                    "$libdir/cmake/velkor6/velkor6-qt-targets-CONFIG.cmake"
+            fi
             if [ "$shared" = 1 ]; then
                 printf "$libdir/%s\n" libvelkor6.so "libvelkor6.so.$major" "libvelkor6.so.$version"
             else
@@ -53,7 +59,7 @@ expected=$( (cd "$root/include" && find velkor6 -name '*.h' | sed 's|^|include/|
                 "$libdir/cmake/velkor6/velkor6-targets.cmake" \
                 "$libdir/cmake/velkor6/velkor6-targets-CONFIG.cmake")
 actual=$(cd "$prefix" && find . ! -type d |
-         sed 's|^\./||; s|velkor6-targets-[a-z]*\.cmake$|velkor6-targets-CONFIG.cmake|')
+         sed 's|^\./||; s|-targets-[a-z]*\.cmake$|-targets-CONFIG.cmake|')
 if ! diff <(sort <<<"$expected") <(sort <<<"$actual"); then
     fail "installed files differ from the expected ones (< expected, > installed)"
 fi
@@ -93,6 +99,28 @@ if [ "$shared" = 1 ]; then
     fi
 fi
 
+if [ "$qtlib" = 1 ]; then
+    echo "== libvelkor6-qt.so: what it exports"
+    # The functions of velkor6/qt.h, the two entries the library's loader looks up, and the type
+    # information of the library's own classes; nothing of Qt's or the standard templates'.
+    qtexported=$(nm -D --defined-only -C "$prefix/$libdir/libvelkor6-qt.so" | cut -d' ' -f3-)
+    qtdeclared=$(grep -oE '^VELKOR6_QT_API [^(]*\(' "$root/include/velkor6/qt.h" |
+                 sed -E 's/\($//; s/.* //')
+    stray=$(grep -vE '^(velkor6_qt_dialog_host|velkor6_qt_control_window|_edata|_end|__bss_start)$' \
+                <<<"$qtexported" |
+            grep -vE '^(typeinfo name for|typeinfo for|vtable for) velkor6::[A-Za-z]+$' |
+            awk -v names="$qtdeclared" '
+                BEGIN { n = split(names, list, "\n"); for (i = 1; i <= n; i++) ok[list[i]] = 1 }
+                { s = $0; sub(/^velkor6::qt::/, "", s); sub(/\(.*/, "", s)
+                  if (!(index($0, "velkor6::qt::") == 1 && (s in ok))) print }')
+    if [ -n "$stray" ]; then
+        head -20 <<<"$stray"
+        fail "libvelkor6-qt.so exports $(wc -l <<<"$stray") symbols velkor6/qt.h does not declare"
+    else
+        echo "exports $(wc -l <<<"$qtexported") symbols, as velkor6/qt.h declares them"
+    fi
+fi
+
 echo "== find_package(velkor6)"
 if cmake -S "$here" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$cxx" \
        >"$work/configure.log" 2>&1 &&
@@ -105,6 +133,12 @@ if cmake -S "$here" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_C
         echo "prints $out"
     else
         fail "the CMake-built consumer printed '$out', expected 1"
+    fi
+    if [ "$qtlib" = 1 ]; then
+        out=$(QT_QPA_PLATFORM=offscreen "$work/cmake/consumer_qt") ||
+            fail "the Qt consumer (find_package(velkor6 COMPONENTS qt)) exited with status $?"
+        [ "$out" = 1 ] && echo "the Qt consumer prints $out" ||
+            fail "the Qt consumer printed '$out', expected 1"
     fi
 else
     cat "$work/configure.log" "$work/build.log" 2>/dev/null

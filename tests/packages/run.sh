@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds the Debian packages (libvelkor6-6, libvelkor6-dev, velkor6), installs them with apt on a
+# Builds the Debian packages (libvelkor6-6, libvelkor6-dev, velkor6; libvelkor6-qt and
+# libvelkor6-qt-dev where Qt is there), installs them with apt on a
 # fresh Debian 12, and there builds the program of tests/consumer against them, with find_package
 # and with pkg-config: each build must print 1, and so must the velkor6 program. Then purges
 # them and checks that nothing of them is left.
@@ -37,8 +38,8 @@ major=${version%%.*}
 arch=$(dpkg --print-architecture)
 multiarch=$(dpkg-architecture -qDEB_HOST_MULTIARCH)
 packages=("libvelkor6-$major" libvelkor6-dev velkor6)
-# The Qt dialog host, where Qt was there to build it.
-grep -q '^Qt6Widgets_DIR:PATH=/' "$build/CMakeCache.txt" && packages+=(libvelkor6-qt)
+# The Qt library and its development files, where Qt was there to build it.
+grep -q '^Qt6Widgets_DIR:PATH=/' "$build/CMakeCache.txt" && packages+=(libvelkor6-qt libvelkor6-qt-dev)
 for package in "${packages[@]}"; do
     deb=$build/${package}_$version-1_$arch.deb
     [ -f "$deb" ] || { fail "no $(basename "$deb")"; continue; }
@@ -55,10 +56,16 @@ for f in include/velkor6/lib.h "lib/$multiarch/libvelkor6.so" "lib/$multiarch/pk
     contents libvelkor6-dev | grep -qx "./usr/$f" || fail "libvelkor6-dev does not hold /usr/$f"
 done
 contents velkor6 | grep -qx ./usr/bin/velkor6 || fail "velkor6 does not hold /usr/bin/velkor6"
-if [ ${#packages[@]} = 4 ]; then
+if [ ${#packages[@]} = 5 ]; then
     contents libvelkor6-qt | grep -qx "./usr/lib/$multiarch/libvelkor6-qt.so" ||
-        fail "libvelkor6-qt does not hold the Qt dialog host"
+        fail "libvelkor6-qt does not hold the Qt library"
+    for f in include/velkor6/qt.h "lib/$multiarch/cmake/velkor6/velkor6-qt-targets.cmake"; do
+        contents libvelkor6-qt-dev | grep -qx "./usr/$f" || fail "libvelkor6-qt-dev does not hold /usr/$f"
+    done
+    dpkg-deb -f "$build/libvelkor6-qt_$version-1_$arch.deb" Depends |
+        grep -q "libvelkor6-$major (= $version-1)" || fail "libvelkor6-qt does not depend on its library"
 fi
+contents libvelkor6-dev | grep -q 'velkor6/qt\.h$' && fail "libvelkor6-dev holds the Qt header"
 dpkg-deb -f "$build/libvelkor6-dev_$version-1_$arch.deb" Depends |
     grep -q "libvelkor6-$major (= $version-1)" || fail "libvelkor6-dev does not depend on its library"
 
@@ -86,7 +93,8 @@ cp -a "$cache/." "$system/"
 cp /etc/resolv.conf "$system/etc/resolv.conf"
 mount -t proc proc "$system/proc"
 mkdir "$system/tmp/velkor6"
-cp "$build"/*.deb "$here/../consumer/main.cpp" "$here/../consumer/CMakeLists.txt" \
+cp "$build"/*.deb "$here/../consumer/main.cpp" "$here/../consumer/qt_main.cpp" \
+    "$here/../consumer/CMakeLists.txt" \
     "$system/tmp/velkor6/"
 
 echo "== install, build against the packages, purge"
@@ -114,6 +122,12 @@ cmake -S . -B cmake-build >cmake.log 2>&1 && cmake --build cmake-build >>cmake.l
     { cat cmake.log; fail "the consumer did not build with find_package"; }
 grep -q "velkor6 .* in /usr/lib/" cmake.log || fail "find_package did not take the packaged velkor6"
 expect1 "the find_package build" cmake-build/consumer
+# With libvelkor6-qt-dev, find_package(velkor6 COMPONENTS qt) gives velkor6::qt.
+if [ -x cmake-build/consumer_qt ]; then
+    expect1 "the Qt build" env QT_QPA_PLATFORM=offscreen cmake-build/consumer_qt
+elif dpkg-query -W libvelkor6-qt-dev >/dev/null 2>&1; then
+    fail "libvelkor6-qt-dev is installed but the Qt consumer was not built"
+fi
 # shellcheck disable=SC2046 # the flags are words
 g++ -std=c++20 main.cpp $(pkg-config --cflags --libs velkor6) -o consumer-pc ||
     fail "the consumer did not build with pkg-config"

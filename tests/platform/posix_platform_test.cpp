@@ -8,7 +8,9 @@
 #include "platform/posix/utf8_path.h"
 #include "platform/posix/xdg_folders.h"
 #include "velkor6/enums.h"
+#include "velkor6/platform/platform.h"
 
+#include <dlfcn.h>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -208,6 +210,14 @@ TEST(PosixFonts, FontconfigListsTheInstalledFamilies) {
         GTEST_SKIP() << "fontconfig knows no fonts on this machine";
     for (const auto& name : families)
         EXPECT_FALSE(name.empty());
+}
+
+// A program that never wrapped a Qt widget gets no control window and never loads Qt for one.
+TEST(PosixWindowManager, ControlWindowsNeverLoadTheQtLibrary) {
+    const std::unique_ptr<Platform> platform = Platform::createNative();
+    EXPECT_EQ(platform->windowManager->controlWindow(0x60000000), nullptr);
+    EXPECT_EQ(platform->windowManager->controlWindow(0x1200007), nullptr);
+    EXPECT_EQ(::dlopen("libvelkor6-qt.so", RTLD_NOW | RTLD_NOLOAD), nullptr);
 }
 
 } // namespace

@@ -15,6 +15,19 @@ struct LibraryCloser {
 };
 
 using EntryPoint = DialogHost* (*)();
+using ControlEntryPoint = ControlWindow* (*)(std::int32_t);
+using Library = std::unique_ptr<void, LibraryCloser>;
+
+// The Qt library when this process has loaded it already: linked by a program that wraps its
+// widgets, or loaded for a dialog. RTLD_NOLOAD only finds it, so asking never loads Qt.
+Library loadedQtLibrary() {
+    if (void* linked = ::dlopen(qtLibraryName, RTLD_NOW | RTLD_NOLOAD))
+        return Library(linked);
+    for (const std::string& file : qtLibraryCandidates(nativePath(libraryFolder())))
+        if (void* loaded = ::dlopen(file.c_str(), RTLD_NOW | RTLD_NOLOAD))
+            return Library(loaded);
+    return nullptr;
+}
 
 class QtOnFirstUse final : public DialogHost {
 public:
@@ -78,10 +91,14 @@ std::unique_ptr<DialogHost> loadQtDialogHost() {
     const char* display = std::getenv("DISPLAY");
     if (display == nullptr || *display == '\0')
         return nullptr;
-    for (const std::string& file : qtLibraryCandidates(nativePath(libraryFolder()))) {
+    // A program that links the Qt library has its own copy found first: one Qt library a process.
+    std::vector<std::string> files{qtLibraryName};
+    for (std::string& file : qtLibraryCandidates(nativePath(libraryFolder())))
+        files.push_back(std::move(file));
+    for (const std::string& file : files) {
+        const int mode = file == qtLibraryName ? RTLD_NOLOAD : RTLD_LOCAL;
         // Qt cannot be unloaded once it has run, so the library stays whatever the handle does.
-        const std::unique_ptr<void, LibraryCloser> library(
-            ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE));
+        const Library library(::dlopen(file.c_str(), RTLD_NOW | mode | RTLD_NODELETE));
         if (!library)
             continue;
         const auto entry =
@@ -96,6 +113,16 @@ std::unique_ptr<DialogHost> loadQtDialogHost() {
 } // namespace velkor6::posix
 
 namespace velkor6::posix {
+
+std::shared_ptr<ControlWindow> qtControlWindow(WindowHandle handle) {
+    const Library library = loadedQtLibrary();
+    if (!library)
+        return nullptr;
+    const auto entry =
+        reinterpret_cast<ControlEntryPoint>(::dlsym(library.get(), "velkor6_qt_control_window"));
+    // The library stays loaded after our reference goes: it was loaded before we asked.
+    return entry == nullptr ? nullptr : std::shared_ptr<ControlWindow>(entry(handle));
+}
 
 std::unique_ptr<DialogHost> qtOnFirstUse(std::function<std::unique_ptr<DialogHost>()> fallback) {
     return std::make_unique<QtOnFirstUse>(std::move(fallback));

@@ -1,6 +1,7 @@
 #include "platform/posix/window_manager.h"
 
 #include "core/text.h"
+#include "platform/posix/qt_loader.h"
 #include "platform/posix/x_display.h"
 
 #include <X11/Xatom.h>
@@ -223,6 +224,11 @@ public:
     // X11 has no window messages.
     std::int32_t sendMessage(WindowHandle, std::uint32_t, std::int32_t, std::int32_t) override {
         return 0;
+    }
+
+    // The controls of a Qt program are widgets that velkor6::qt wrapped, not X windows.
+    std::shared_ptr<ControlWindow> controlWindow(WindowHandle window) override {
+        return qtControlWindow(window);
     }
 
     std::optional<WindowRect> workArea(std::int32_t, std::int32_t) override {
