@@ -107,22 +107,6 @@ Class CtlArray
     End Property
 End Class
 
-' Controls of a form: Count and a default member from 0.
-Class CtlList
-    Private items
-    Private Sub Class_Initialize()
-        ReDim items(1)
-    End Sub
-    Public Property Get Count()
-        Count = 2
-    End Property
-    Public Default Property Get Item(i)
-        Set Item = items(i)
-    End Property
-    Public Sub SetItem(i, c)
-        Set items(i) = c
-    End Sub
-End Class
 
 ' A form with a container array fraTab, an option group optKind and its Controls, in twips.
 Class Frm
@@ -136,7 +120,7 @@ Class Frm
         ScaleMode = 1
         Set fraTab = New CtlArray
         Set optKind = New CtlArray
-        Set Controls = New CtlList
+        Set Controls = New ObjectPair
     End Sub
 End Class
 

@@ -14,21 +14,6 @@ Class TextBox
     Public Name
     Public Text
 End Class
-Class ControlList
-    Private items
-    Private Sub Class_Initialize()
-        ReDim items(1)
-    End Sub
-    Public Property Get Count()
-        Count = 2
-    End Property
-    Public Default Property Get Item(i)
-        Set Item = items(i)
-    End Property
-    Public Sub SetItem(i, c)
-        Set items(i) = c
-    End Sub
-End Class
 Class Form
     Public Name
     Public Caption
@@ -98,7 +83,7 @@ r = Empty : r = o.vkrGlobalVar("FadeIn", Array(0, 100)) : Check "FadeIn without 
 ' Captions in English, the text box's from the German fallback; a control the form lacks.
 Set frm = New Form
 frm.Name = "frmMain"
-Set frm.Controls = New ControlList
+Set frm.Controls = New ObjectPair
 Set cmd = New Control
 cmd.Name = "cmdOK"
 Set txt = New TextBox

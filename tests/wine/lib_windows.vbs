@@ -9,22 +9,6 @@ Class Form
     Public Name
     Public Enabled
 End Class
-Class FormList
-    ' Wine's VBScript takes no array bounds in a class's declarations.
-    Private items
-    Private Sub Class_Initialize()
-        ReDim items(1)
-    End Sub
-    Public Property Get Count()
-        Count = 2
-    End Property
-    Public Default Property Get Item(i)
-        Set Item = items(i)
-    End Property
-    Public Sub SetItem(i, f)
-        Set items(i) = f
-    End Sub
-End Class
 
 Dim o, r, shell, helper, hwnd, forms, main, found, size
 Set o = CreateObject("velkor6.lib")
@@ -78,7 +62,7 @@ Check "vkrWaitForClassFinished sees the window vanish", r, True
 r = Empty : r = o.vkrFindWindow(-1, "VelkorTestWindow", "*") : Check "the helper window is gone", r, CLng(0)
 Check "the parent form is enabled after the wait", main.Enabled, True
 
-Set forms = New FormList
+Set forms = New ObjectPair
 Dim splash
 Set splash = New Form
 splash.Name = "frmSplash"
